@@ -1,0 +1,14 @@
+// The mine that keeps a wall at its left hand.
+#include "mines/WallMine.h"
+
+namespace tumbledeep {
+
+void frmDocument::MineLTick() {
+    static constexpr WallMine Rules{&frmDocument::MovingMineL,
+                                    Kind::MovingMineL,
+                                    Picture::MovingMineLUpPic,
+                                    {{Heading::Left, Heading::Right, Heading::Down, Heading::Up}}};
+    WallMineTick(Rules);
+}
+
+} // namespace tumbledeep

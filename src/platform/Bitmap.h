@@ -1,0 +1,26 @@
+// A drawn picture: 25 by 25 pixels of 24-bit colour, opaque.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace tumbledeep {
+
+struct Colour {
+    std::uint8_t Red = 255;
+    std::uint8_t Green = 255;
+    std::uint8_t Blue = 255;
+    friend bool operator==(const Colour&, const Colour&) = default;
+};
+
+/// White until drawn upon; rows from the top.
+struct Bitmap {
+    static constexpr int Size = 25;
+    std::array<Colour, std::size_t{Size} * Size> Pixels{};
+
+    Colour& At(int x, int y) { return Pixels[static_cast<std::size_t>(y * Size + x)]; }
+    const Colour& At(int x, int y) const { return Pixels[static_cast<std::size_t>(y * Size + x)]; }
+    friend bool operator==(const Bitmap&, const Bitmap&) = default;
+};
+
+} // namespace tumbledeep

@@ -1,0 +1,25 @@
+// Mode 2 of the following view: a glide towards the player, a tenth of the way at a time.
+#include "board/frmDocument.h"
+#include "shell/frmMain.h"
+
+namespace tumbledeep {
+
+namespace {
+
+/// One axis, in twips: the parent's outer size, the player's and the board's position. The two
+/// tests overlap, and in the overlap the board moves twice. It may leave the map's edge behind.
+void Glide(float parentSize, float you, float& board) {
+    const float target = parentSize / 2 - you - 360;
+    if (target - 720 < board) board -= (board - target) / 10;
+    if (parentSize / 2 - you + 360 + 720 > board) board -= (board - target) / 10;
+}
+
+} // namespace
+
+void frmDocument::ViewTick() {
+    if (AutoMoveMode != 2 || !AutoMoveOn) return;
+    Glide(Parent.Form.Height, You.Top, Form.Top);
+    Glide(Parent.Form.Width, You.Left, Form.Left);
+}
+
+} // namespace tumbledeep
