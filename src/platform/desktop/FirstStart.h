@@ -1,0 +1,12 @@
+// The very first start plays at once, without a dialog.
+#pragma once
+
+#include <filesystem>
+
+namespace tumbledeep {
+
+/// With no settings file yet and a map list Default.TBL in the directory, writes the settings that
+/// play the list from its first map. Does nothing otherwise.
+void PrepareFirstStart(const std::filesystem::path& directory);
+
+} // namespace tumbledeep

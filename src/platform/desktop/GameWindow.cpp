@@ -1,0 +1,184 @@
+// The clock is held here while a dialog is open, and nowhere else.
+#include "platform/desktop/GameWindow.h"
+
+#include "platform/desktop/SpriteImages.h"
+#include "shell/Catalogue.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QWindow>
+
+#include <array>
+
+namespace tumbledeep {
+
+namespace {
+
+constexpr float TwipsPerPixel = 15;
+/// How long, in milliseconds, a window that nobody activates waits before the game starts.
+constexpr int ActivationPatience = 250;
+constexpr int StatusPictureSize = 14;
+
+} // namespace
+
+GameWindow::GameWindow(frmMain& main, DesktopPlatform& services, const Options& options)
+    : game(main),
+      platform(services),
+      canvas(new BoardCanvas(main, options.Scale)),
+      shownPipe(options.ShownPipe.value_or(-1)) {
+    setCentralWidget(canvas);
+    BuildMenu();
+    BuildStatusBar();
+    ConnectCanvas();
+    ConnectDialogs();
+    canvas->setFocus();
+
+    timer.setTimerType(Qt::PreciseTimer);
+    timer.setInterval(game.ActiveChild.Interval100Timer.Interval);
+    connect(&timer, &QTimer::timeout, this, [this] {
+        if (openDialogs == 0) Deliver([this] { game.ActiveChild.Interval100Timer_Timer(); });
+    });
+    // The application's state, not the window's: between the two windows of a dialog nobody leaves.
+    connect(qApp, &QGuiApplication::applicationStateChanged, this,
+            [this](Qt::ApplicationState now) {
+                if (!started) return;
+                Deliver([this, now] {
+                    if (now == Qt::ApplicationActive) {
+                        game.ActiveChild.Form_GotFocus();
+                    } else {
+                        game.ActiveChild.Form_LostFocus();
+                    }
+                });
+            });
+    QTimer::singleShot(ActivationPatience, this, [this] { StartGame(); });
+    Sync();
+}
+
+void GameWindow::StartGame() {
+    if (started) return;
+    started = true;
+    Deliver([this] { game.MDIForm_Activate(); });
+}
+
+void GameWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || started || !isActiveWindow()) return;
+    // Behind the events that are on their way, so that a maximised window has its size.
+    QTimer::singleShot(0, this, [this] { StartGame(); });
+}
+
+void GameWindow::Deliver(const std::function<void()>& event) {
+    if (ended) return;
+    TakeOuterSize();
+    try {
+        event();
+    } catch (const ProgramEnd&) {
+        ended = true;
+        timer.stop();
+        platform.AwaitSuccessor();
+        QCoreApplication::exit(0);
+        return;
+    }
+    Sync();
+}
+
+void GameWindow::TakeOuterSize() {
+    const qreal ratio = devicePixelRatioF() / canvas->Scale() * TwipsPerPixel;
+    game.Form.Width = static_cast<float>(frameGeometry().width() * ratio);
+    game.Form.Height = static_cast<float>(frameGeometry().height() * ratio);
+}
+
+void GameWindow::Sync() {
+    const QString caption = QString::fromStdString(game.Form.Caption);
+    if (windowTitle() != caption) setWindowTitle(caption);
+    const QString status = QString::fromStdString(game.Info.Panel);
+    if (panel->text() != status) panel->setText(status);
+    for (std::size_t i = 0; i < actions.size(); ++i) {
+        if (actions[i] == nullptr) continue;
+        // Only an entry that has ever had a check mark keeps room for one.
+        actions[i]->setCheckable(actions[i]->isCheckable() || game.Menu[i].Checked);
+        actions[i]->setChecked(game.Menu[i].Checked);
+    }
+    const bool runs = started && openDialogs == 0 && game.ActiveChild.Interval100Timer.Enabled;
+    if (runs && !timer.isActive()) timer.start();
+    if (!runs) timer.stop();
+    canvas->Sync();
+}
+
+void GameWindow::BuildMenu() {
+    std::array<QMenu*, 4> open{};
+    for (const MenuEntry& entry : game.Menu) {
+        const auto level = static_cast<std::size_t>(entry.Level);
+        QAction* action = nullptr;
+        if (entry.Submenu) {
+            open[level] = level == 1 ? menuBar()->addMenu(entry.Caption)
+                                     : open[level - 1]->addMenu(entry.Caption);
+        } else {
+            action = open[level - 1]->addAction(entry.Caption);
+            connect(action, &QAction::triggered, this, [this, name = std::string(entry.Name)] {
+                Deliver([this, &name] { game.MenuClick(name); });
+            });
+        }
+        actions.push_back(action);
+    }
+}
+
+void GameWindow::BuildStatusBar() {
+    auto* const disc = new QLabel;
+    const QImage image = ImageOf(StatusDisc(), 4, StatusDiscCovers);
+    QPixmap pixmap = QPixmap::fromImage(
+        image.scaled(QSize(StatusPictureSize, StatusPictureSize) * devicePixelRatioF(),
+                     Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    pixmap.setDevicePixelRatio(devicePixelRatioF());
+    disc->setPixmap(pixmap);
+    disc->setContentsMargins(6, 0, 2, 0);
+    panel = new QLabel;
+    panel->setTextFormat(Qt::PlainText);
+    statusBar()->addWidget(disc);
+    statusBar()->addWidget(panel);
+}
+
+void GameWindow::ConnectCanvas() {
+    canvas->Typed = [this](const std::string& text) {
+        if (!started) return;
+        Deliver([this, &text] {
+            game.ActiveChild.Input_Box.Text = text;
+            game.ActiveChild.Input_Box_Change();
+        });
+    };
+    canvas->ArrowKey = [this](int key, bool down) { platform.SetKey(key, down); };
+    canvas->KeysLost = [this] { platform.ReleaseAllKeys(); };
+    canvas->BoardPressed = [this](int button) {
+        Deliver([this, button] { game.ActiveChild.Form_MouseDown(button); });
+    };
+    canvas->BoardMouseMoved = [this](int button) {
+        Deliver([this, button] { game.ActiveChild.Form_MouseMove(button); });
+    };
+    canvas->BoardDragged = [this] { Sync(); };
+    canvas->FirstPaint = [this] { QTimer::singleShot(0, this, [this] { TellShown(); }); };
+    platform.BeginDrag = [this] { canvas->BeginDrag(); };
+}
+
+void GameWindow::ConnectDialogs() {
+    platform.DialogParent = this;
+    platform.BeforeDialog = [this] {
+        ++openDialogs;
+        Sync();
+        TellShown();
+    };
+    platform.AfterDialog = [this] {
+        --openDialogs;
+        TakeOuterSize();
+    };
+}
+
+void GameWindow::TellShown() {
+    if (shownPipe >= 0) Successor::TellShown(shownPipe);
+    shownPipe = -1;
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,58 @@
+// The parent window on the screen. It owns the loop's side of the game: every event is delivered
+// here, and afterwards the screen is made to agree with the game's data.
+#pragma once
+
+#include "platform/desktop/BoardCanvas.h"
+#include "platform/desktop/DesktopPlatform.h"
+#include "shell/frmMain.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+class QAction;
+class QLabel;
+class QMenu;
+
+namespace tumbledeep {
+
+class GameWindow final : public QMainWindow {
+  public:
+    /// `shownPipe` is told when the board is on the screen.
+    GameWindow(frmMain& game, DesktopPlatform& platform, const Options& options);
+
+    /// Starts the game if it has not been started; otherwise does nothing.
+    void StartGame();
+
+  protected:
+    void changeEvent(QEvent* event) override;
+
+  private:
+    /// Lets the game take an event, to its end, and shows what it has changed. The end of the
+    /// program, which the game throws, stops here.
+    void Deliver(const std::function<void()>& event);
+    void Sync();
+    void TakeOuterSize();
+    void BuildMenu();
+    void BuildStatusBar();
+    void ConnectCanvas();
+    void ConnectDialogs();
+    void TellShown();
+
+    frmMain& game;
+    DesktopPlatform& platform;
+    BoardCanvas* canvas;
+    QLabel* panel = nullptr;
+    std::vector<QAction*> actions; ///< by index in the game's menu, nullptr for a submenu
+    QTimer timer;
+    int openDialogs = 0;
+    int shownPipe;
+    bool started = false;
+    bool ended = false;
+};
+
+} // namespace tumbledeep

@@ -1,0 +1,35 @@
+// The options of the desktop program: words that begin with "--". All else is the game's.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tumbledeep {
+
+struct Options {
+    bool Help = false;
+    bool Version = false;
+    std::optional<std::filesystem::path> Directory; ///< of maps, lists and settings
+    std::optional<int> Scale;                       ///< device pixels to a pixel of the game
+    std::optional<int> ShownPipe; ///< file descriptor on which a predecessor waits to be told
+    std::string Argument;         ///< the game's command line text, as the player wrote it
+
+    /// The words that make a successor show the game in the same way.
+    std::vector<std::string> ForSuccessor() const;
+};
+
+/// Reads the words behind the program's name. Throws std::runtime_error with a text for the player
+/// when one does not fit.
+Options ReadOptions(std::span<char* const> words);
+
+/// The text that --help prints.
+const char* UsageText();
+
+/// The game's command line for what the player wrote: a relative map or list is looked for in the
+/// program's directory first and then in the current one, and a host's path becomes the program's.
+std::string CommandText(const std::string& argument, const std::filesystem::path& directory);
+
+} // namespace tumbledeep
