@@ -18,9 +18,14 @@ struct Bitmap {
     static constexpr int Size = 25;
     std::array<Colour, std::size_t{Size} * Size> Pixels{};
 
-    Colour& At(int x, int y) { return Pixels[static_cast<std::size_t>(y * Size + x)]; }
-    const Colour& At(int x, int y) const { return Pixels[static_cast<std::size_t>(y * Size + x)]; }
+    Colour& At(int x, int y) { return Pixels[Index(x, y)]; }
+    const Colour& At(int x, int y) const { return Pixels[Index(x, y)]; }
     friend bool operator==(const Bitmap&, const Bitmap&) = default;
+
+  private:
+    static constexpr std::size_t Index(int x, int y) {
+        return static_cast<std::size_t>(y) * Size + static_cast<std::size_t>(x);
+    }
 };
 
 } // namespace tumbledeep

@@ -65,7 +65,7 @@ Place Find(std::string_view text, std::string_view section, std::string_view key
             place.Value = line->Text.substr(equals + 1);
             break;
         }
-        if (!Trimmed(line->Text).empty()) place.AddAt = line->Next;
+        if (!line->Text.empty()) place.AddAt = line->Next;
     }
     return place;
 }

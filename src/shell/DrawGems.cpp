@@ -78,7 +78,8 @@ void StampDiamond(Bitmap& bitmap, int member, int halfHeight) {
 }
 
 Bitmap DrawGem(int member) {
-    if (member >= DiamondCount) return DrawDrop(DropRims[static_cast<std::size_t>(member - DiamondCount)]);
+    if (member >= DiamondCount)
+        return DrawDrop(DropRims[static_cast<std::size_t>(member - DiamondCount)]);
     Bitmap bitmap;
     StampDiamond(bitmap, member, Middle);
     return bitmap;

@@ -30,25 +30,25 @@ constexpr Pattern<15> Star{
 };
 constexpr int StarEdge = 5;
 
-/// A mark for each kind that needs no hue.
+/// By kind: a lens, a slot, two halves, one eye and two eyes, told apart without their hue.
 constexpr std::array<Pattern<7>, 5> Hearts{{
     {
         ".ddddd.", //
         "ddddddd", //
-        "ddllldd", //
-        "ddllldd", //
-        "ddllldd", //
+        "ddmmmdd", //
+        "ddmlmdd", //
+        "ddmmmdd", //
         "ddddddd", //
         ".ddddd.",
     },
     {
-        ".lllll.", //
-        "lllllll", //
-        "ddddddd", //
-        "ddddddd", //
+        ".ddddd.", //
         "ddddddd", //
         "lllllll", //
-        ".lllll.",
+        "lllllll", //
+        "lllllll", //
+        "ddddddd", //
+        ".ddddd.",
     },
     {
         ".lllll.", //

@@ -27,9 +27,7 @@ constexpr std::array<Stone, 7> Stones{{
 }};
 
 /// About 1 on the whole: more towards the light, less away from it.
-float LightOn(int x, int y) {
-    return 1.0F + static_cast<float>(2 * Middle - x - y) * 0.022F;
-}
+float LightOn(int x, int y) { return 1.0F + static_cast<float>(2 * Middle - x - y) * 0.022F; }
 
 /// Blots within blots, in a few steps, so that they look like stone and not like smoke.
 float Mottling(const Stone& stone, int x, int y, unsigned seed) {
@@ -40,8 +38,7 @@ float Mottling(const Stone& stone, int x, int y, unsigned seed) {
 }
 
 Colour StoneColour(const Stone& stone, int x, int y, unsigned seed) {
-    return Lit(stone.Disc,
-               LightOn(x, y) * (1.0F + stone.Contrast * Mottling(stone, x, y, seed)));
+    return Lit(stone.Disc, LightOn(x, y) * (1.0F + stone.Contrast * Mottling(stone, x, y, seed)));
 }
 
 } // namespace
@@ -53,8 +50,7 @@ Bitmap DrawRock(int member) {
         for (int x = 0; x < Bitmap::Size; ++x) {
             if (!InFullDisc(x, y)) continue;
             const Colour body = StoneColour(stone, x, y, static_cast<unsigned>(member));
-            bitmap.At(x, y) =
-                Blend(body, stone.Rim, DistanceFromMiddle(x, y) - FullRadius + 2.0F);
+            bitmap.At(x, y) = Blend(body, stone.Rim, DistanceFromMiddle(x, y) - FullRadius + 2.0F);
         }
     }
     return bitmap;

@@ -85,8 +85,9 @@ void Put(Image& sheet, int column, int row, const Drawing& drawing) {
 Image DrawSheet() {
     const std::vector<Row> rows = Rows();
     const auto longest =
-        std::max_element(rows.begin(), rows.end(),
-                         [](const Row& one, const Row& other) { return one.size() < other.size(); });
+        std::max_element(rows.begin(), rows.end(), [](const Row& one, const Row& other) {
+            return one.size() < other.size();
+        });
     Image sheet(static_cast<int>(longest->size()) * Frame + 1,
                 static_cast<int>(rows.size()) * Frame + 1, Paper);
     DrawFrames(sheet);

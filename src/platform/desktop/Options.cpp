@@ -3,6 +3,7 @@
 
 #include "platform/HostFiles.h"
 
+#include <algorithm>
 #include <charconv>
 #include <stdexcept>
 #include <string_view>
@@ -92,7 +93,9 @@ std::string CommandText(const std::string& argument, const fs::path& directory) 
     if (!fs::exists(FindFile(directory / host), error) && fs::exists(FindFile(host), error)) {
         return ProgramPath(host);
     }
-    return argument;
+    std::string relative = name;
+    std::replace(relative.begin(), relative.end(), '/', '\\');
+    return relative;
 }
 
 } // namespace tumbledeep

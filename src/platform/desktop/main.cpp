@@ -26,7 +26,18 @@ constexpr int WrongCall = 2;
 constexpr int NoScreen = 1;
 constexpr QSize FirstSize{1024, 768};
 
-/// The toolkit would end the process with a page of its own errors.
+constexpr const char* NoScreenText =
+    "tumbledeep: there is no screen here; start it from a desktop, "
+    "or set DISPLAY to one\n";
+
+/// While the toolkit looks for the screen: in place of a page of its errors, one line of ours.
+void OneLineForNoScreen(QtMsgType type, const QMessageLogContext& /*context*/,
+                        const QString& /*text*/) {
+    if (type != QtFatalMsg) return;
+    std::cerr << NoScreenText;
+    std::_Exit(NoScreen);
+}
+
 bool HasScreen() {
     return std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr ||
            std::getenv("QT_QPA_PLATFORM") != nullptr;
@@ -60,13 +71,14 @@ int Run(int argc, char** argv) {
         return 0;
     }
     if (!HasScreen()) {
-        std::cerr << "tumbledeep: there is no screen here; start it from a desktop, or set DISPLAY "
-                     "to one\n";
+        std::cerr << NoScreenText;
         return NoScreen;
     }
 
     int toolkitWords = 1;
+    qInstallMessageHandler(OneLineForNoScreen);
     const QApplication application(toolkitWords, argv);
+    qInstallMessageHandler(nullptr);
     QApplication::setApplicationName("tumbledeep");
     QApplication::setDesktopFileName("tumbledeep");
     QApplication::setWindowIcon(QPixmap::fromImage(ImageOf(AppIcon(), 4, AppIconCovers)));

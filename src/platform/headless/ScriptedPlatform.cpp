@@ -70,16 +70,21 @@ std::string ScriptedPlatform::InputBox(const std::string& prompt) {
     return text;
 }
 
+/// A path without a drive letter starts at the program's directory, a host's at the host's root.
+std::string ScriptedPlatform::ChosenPath(std::string path) const {
+    std::replace(path.begin(), path.end(), '/', '\\');
+    const bool hasDrive = path.size() >= 2 && path[1] == ':';
+    if (hasDrive) return path;
+    return path.starts_with('\\') ? "Z:" + path : AppPath() + "\\" + path;
+}
+
 void ScriptedPlatform::ShowOpen(CommonDialog& dialog) {
     using To = ScriptAnswer::To;
     const auto answer = NextAnswer("an open dialog",
                                    [](To kind) { return kind == To::File || kind == To::Cancel; });
     dialog.FileName.clear();
     if (answer && answer->Kind == To::File) {
-        dialog.FileName = answer->Text;
-        std::replace(dialog.FileName.begin(), dialog.FileName.end(), '/', '\\');
-        const bool hasDrive = dialog.FileName.size() >= 2 && dialog.FileName[1] == ':';
-        if (!hasDrive) dialog.FileName = AppPath() + "\\" + dialog.FileName;
+        dialog.FileName = ChosenPath(answer->Text);
     }
     dialog.FileTitle = dialog.FileName.substr(dialog.FileName.rfind('\\') + 1);
     out << "open " << Quoted(dialog.DialogTitle) << ' ' << Quoted(dialog.InitDir) << ' '

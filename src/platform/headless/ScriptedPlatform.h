@@ -54,6 +54,7 @@ class ScriptedPlatform final : public Platform {
   private:
     /// The next answer if there is one; throws ScriptFault unless `fits` takes it.
     std::optional<ScriptAnswer> NextAnswer(const char* dialog, bool (*fits)(ScriptAnswer::To kind));
+    std::string ChosenPath(std::string path) const;
 
     ScriptedRun run;
     Script& script;
