@@ -15,11 +15,11 @@ namespace tumbledeep {
 namespace fs = std::filesystem;
 
 fs::path HostPath(std::string_view programPath) {
-    std::string path(programPath);
+    const bool hasDrive = programPath.size() >= 2 && programPath[1] == ':';
+    std::string path(hasDrive ? programPath.substr(2) : programPath);
     std::replace(path.begin(), path.end(), '\\', '/');
-    const bool hasDrive = path.size() >= 2 && path[1] == ':';
-    if (hasDrive) path = "/" + path.substr(2);
-    return fs::path(path).lexically_normal();
+    const fs::path host(path);
+    return (hasDrive ? fs::path("/") / host.relative_path() : host).lexically_normal();
 }
 
 std::string ProgramPath(const fs::path& hostPath) {

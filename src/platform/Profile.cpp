@@ -82,21 +82,21 @@ std::string ProfileWith(std::string_view text, std::string_view section, std::st
     const std::size_t firstFeed = text.find('\n');
     const bool windowsEnds =
         firstFeed != std::string_view::npos && firstFeed > 0 && text[firstFeed - 1] == '\r';
-    const std::string lineEnd = windowsEnds ? "\r\n" : "\n";
-    const std::string entry =
-        std::string(key) + "=" + std::string(value.substr(0, value.find_first_of("\r\n")));
+    const std::string_view lineEnd = windowsEnds ? "\r\n" : "\n";
+    std::string entry(key);
+    entry.append("=").append(value.substr(0, value.find_first_of("\r\n")));
 
     if (place.Found) {
         const std::size_t end = place.Found->Start + place.Found->Text.size();
-        return std::string(text.substr(0, place.Found->Start)) + entry +
-               std::string(text.substr(end));
+        return std::string(text.substr(0, place.Found->Start))
+            .append(entry)
+            .append(text.substr(end));
     }
     const std::size_t split = place.SectionFound ? place.AddAt : text.size();
     std::string result(text.substr(0, split));
     if (!result.empty() && result != "\xEF\xBB\xBF" && !result.ends_with('\n')) result += lineEnd;
-    if (!place.SectionFound) result += "[" + std::string(section) + "]" + lineEnd;
-    result += entry + lineEnd;
-    return result + std::string(text.substr(split));
+    if (!place.SectionFound) result.append("[").append(section).append("]").append(lineEnd);
+    return result.append(entry).append(lineEnd).append(text.substr(split));
 }
 
 } // namespace tumbledeep

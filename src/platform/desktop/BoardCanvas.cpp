@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tumbledeep {
 
@@ -112,10 +113,8 @@ void BoardCanvas::paintEvent(QPaintEvent* event) {
         }
         PaintBoard(painter, part & boardRect, boardRect);
     }
-    if (!painted && game.ActiveChild.Form.Visible) {
-        painted = true;
-        FirstPaint();
-    }
+    if (!std::exchange(cameUp, true)) CameUp();
+    if (game.ActiveChild.Form.Visible && !std::exchange(boardPainted, true)) BoardPainted();
 }
 
 void BoardCanvas::PaintBoard(QPainter& painter, const QRect& part, const QRect& boardRect) const {

@@ -24,8 +24,10 @@ class BoardCanvas final : public QWidget {
     std::function<void(int button)> BoardMouseMoved;
     /// The board has been moved by the mouse.
     std::function<void()> BoardDragged;
+    /// The canvas is on the screen for the first time.
+    std::function<void()> CameUp;
     /// The board has been painted for the first time.
-    std::function<void()> FirstPaint;
+    std::function<void()> BoardPainted;
 
     /// Repaints what has changed since the last call.
     void Sync();
@@ -61,7 +63,8 @@ class BoardCanvas final : public QWidget {
     int shownScale = 0;
     bool pressedOnBoard = false;
     bool dragging = false;
-    bool painted = false;
+    bool cameUp = false;
+    bool boardPainted = false;
     QPointF lastMouse;
 };
 

@@ -5,12 +5,10 @@
 #include "shell/Catalogue.h"
 
 #include <QApplication>
-#include <QEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
-#include <QWindow>
 
 #include <array>
 
@@ -19,8 +17,6 @@ namespace tumbledeep {
 namespace {
 
 constexpr float TwipsPerPixel = 15;
-/// How long, in milliseconds, a window that nobody activates waits before the game starts.
-constexpr int ActivationPatience = 250;
 constexpr int StatusPictureSize = 14;
 
 } // namespace
@@ -54,21 +50,12 @@ GameWindow::GameWindow(frmMain& main, DesktopPlatform& services, const Options& 
                     }
                 });
             });
-    QTimer::singleShot(ActivationPatience, this, [this] { StartGame(); });
     Sync();
 }
 
 void GameWindow::StartGame() {
-    if (started) return;
     started = true;
     Deliver([this] { game.MDIForm_Activate(); });
-}
-
-void GameWindow::changeEvent(QEvent* event) {
-    QMainWindow::changeEvent(event);
-    if (event->type() != QEvent::ActivationChange || started || !isActiveWindow()) return;
-    // Behind the events that are on their way, so that a maximised window has its size.
-    QTimer::singleShot(0, this, [this] { StartGame(); });
 }
 
 void GameWindow::Deliver(const std::function<void()>& event) {
@@ -93,15 +80,20 @@ void GameWindow::TakeOuterSize() {
 }
 
 void GameWindow::Sync() {
-    const QString caption = QString::fromStdString(game.Form.Caption);
-    if (windowTitle() != caption) setWindowTitle(caption);
-    const QString status = QString::fromStdString(game.Info.Panel);
-    if (panel->text() != status) panel->setText(status);
+    if (game.Form.Caption != shownCaption) {
+        shownCaption = game.Form.Caption;
+        setWindowTitle(QString::fromStdString(shownCaption));
+    }
+    if (game.Info.Panel != shownStatus) {
+        shownStatus = game.Info.Panel;
+        panel->setText(QString::fromStdString(shownStatus));
+    }
     for (std::size_t i = 0; i < actions.size(); ++i) {
-        if (actions[i] == nullptr) continue;
+        const bool checked = game.Menu[i].Checked;
+        if (actions[i] == nullptr || actions[i]->isChecked() == checked) continue;
         // Only an entry that has ever had a check mark keeps room for one.
-        actions[i]->setCheckable(actions[i]->isCheckable() || game.Menu[i].Checked);
-        actions[i]->setChecked(game.Menu[i].Checked);
+        actions[i]->setCheckable(true);
+        actions[i]->setChecked(checked);
     }
     const bool runs = started && openDialogs == 0 && game.ActiveChild.Interval100Timer.Enabled;
     if (runs && !timer.isActive()) timer.start();
@@ -159,7 +151,10 @@ void GameWindow::ConnectCanvas() {
         Deliver([this, button] { game.ActiveChild.Form_MouseMove(button); });
     };
     canvas->BoardDragged = [this] { Sync(); };
-    canvas->FirstPaint = [this] { QTimer::singleShot(0, this, [this] { TellShown(); }); };
+    // The first exposure stands for the first activation: a window manager grants the focus some
+    // time later, or never. Not within it, as a game that starts may open dialogs.
+    canvas->CameUp = [this] { QTimer::singleShot(0, this, [this] { StartGame(); }); };
+    canvas->BoardPainted = [this] { QTimer::singleShot(0, this, [this] { TellShown(); }); };
     platform.BeginDrag = [this] { canvas->BeginDrag(); };
 }
 

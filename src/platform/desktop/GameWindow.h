@@ -25,13 +25,8 @@ class GameWindow final : public QMainWindow {
     /// `shownPipe` is told when the board is on the screen.
     GameWindow(frmMain& game, DesktopPlatform& platform, const Options& options);
 
-    /// Starts the game if it has not been started; otherwise does nothing.
-    void StartGame();
-
-  protected:
-    void changeEvent(QEvent* event) override;
-
   private:
+    void StartGame();
     /// Lets the game take an event, to its end, and shows what it has changed. The end of the
     /// program, which the game throws, stops here.
     void Deliver(const std::function<void()>& event);
@@ -48,6 +43,8 @@ class GameWindow final : public QMainWindow {
     BoardCanvas* canvas;
     QLabel* panel = nullptr;
     std::vector<QAction*> actions; ///< by index in the game's menu, nullptr for a submenu
+    std::string shownCaption;
+    std::string shownStatus;
     QTimer timer;
     int openDialogs = 0;
     int shownPipe;

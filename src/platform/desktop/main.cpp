@@ -76,6 +76,8 @@ int Run(int argc, char** argv) {
     }
 
     int toolkitWords = 1;
+    // The menu is part of the parent window, whose size the view reckons with.
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     qInstallMessageHandler(OneLineForNoScreen);
     const QApplication application(toolkitWords, argv);
     qInstallMessageHandler(nullptr);
