@@ -88,14 +88,19 @@ class Measure(screen.GameTest):
         self.screen.key("r")
         self.screen.open_dialog()
         pixel, corner = self.screen.pixels, (self.screen.pixels.width - 200, 200)
+        # A hand that is ready: only the key itself is timed, not the start of xdotool.
+        hand = subprocess.Popen(["xdotool", "-"], env=self.screen.env, stdin=subprocess.PIPE)
+        time.sleep(0.3)
         bare, start = 0.0, time.monotonic()
-        subprocess.Popen(["xdotool", "key", "Return"], env=self.screen.env)
+        hand.stdin.write(b"key --delay 0 Return\n")
+        hand.stdin.close()
         # The successor is maximised, so its board's floor reaches the corner.
         while pixel.at(*corner) != screen.WHITE and time.monotonic() - start < 5:
             before = time.monotonic()
             if pixel.at(*spot) == screen.DESKTOP:
                 bare += time.monotonic() - before
         elapsed = 1000 * (time.monotonic() - start)
+        hand.wait()
         self.wait_for_successor(first)
         self.kill_games()
         return elapsed, 1000 * bare
@@ -127,7 +132,7 @@ def main():
         run.write_settings("M.TBM")
         changes = [run.change_of_map() for _ in range(7)]
         print("%-52s %5.0f ms (%.0f to %.0f), bare desktop %.1f ms" % (
-            "Yes to next board, with sending the key", statistics.median(c[0] for c in changes),
+            "Yes to next board painted, median of 7", statistics.median(c[0] for c in changes),
             min(c[0] for c in changes), max(c[0] for c in changes), max(c[1] for c in changes)))
         run.room(40, 30)
         run.board_cpu("40 by 30, paused", 0, [("key", "p")])

@@ -19,7 +19,7 @@ class AreaGrid {
             outside = Kind::HardDirt;
             return outside;
         }
-        return cells[static_cast<std::size_t>(col + row * Size)];
+        return cells[static_cast<std::size_t>(col) + static_cast<std::size_t>(row) * Size];
     }
     Kind& operator()(Cell cell) { return (*this)(cell.Col, cell.Row); }
 

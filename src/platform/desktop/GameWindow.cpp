@@ -152,9 +152,15 @@ void GameWindow::ConnectCanvas() {
     };
     canvas->BoardDragged = [this] { Sync(); };
     // The first exposure stands for the first activation: a window manager grants the focus some
-    // time later, or never. Not within it, as a game that starts may open dialogs.
-    canvas->CameUp = [this] { QTimer::singleShot(0, this, [this] { StartGame(); }); };
-    canvas->BoardPainted = [this] { QTimer::singleShot(0, this, [this] { TellShown(); }); };
+    // time later, or never. Queued, as a game that starts may open dialogs.
+    canvas->CameUp = [this] {
+        QMetaObject::invokeMethod(
+            this, [this] { StartGame(); }, Qt::QueuedConnection);
+    };
+    canvas->BoardPainted = [this] {
+        QMetaObject::invokeMethod(
+            this, [this] { TellShown(); }, Qt::QueuedConnection);
+    };
     platform.BeginDrag = [this] { canvas->BeginDrag(); };
 }
 

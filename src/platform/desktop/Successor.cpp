@@ -7,8 +7,6 @@
 #include <spawn.h>
 #include <unistd.h>
 
-extern char** environ;
-
 namespace tumbledeep {
 
 Successor::~Successor() {
@@ -21,6 +19,7 @@ bool Successor::Start(const std::string& program, std::vector<std::string> words
     fcntl(ends[0], F_SETFD, FD_CLOEXEC);
     words.insert(words.begin(), {program, "--shown-pipe", std::to_string(ends[1])});
     std::vector<char*> argv;
+    argv.reserve(words.size() + 1);
     for (std::string& word : words) argv.push_back(word.data());
     argv.push_back(nullptr);
 
