@@ -29,7 +29,7 @@ class Maker {
         const bool walls = Chance(0.7F);
         const bool offGrid = Chance(0.3F);
         if (Chance(0.9F)) You(width, height);
-        if (Chance(0.7F)) Line("gem1type", 300, 300);
+        if (Chance(0.9F)) Line("gem1type", 300, 300);
         for (int row = 0; row < height; ++row) {
             for (int col = 0; col < width; ++col) {
                 const bool edge = row == 0 || col == 0 || row == height - 1 || col == width - 1;
@@ -54,7 +54,7 @@ class Maker {
         const int col = Below(width);
         const int row = Below(height);
         Line("you", col, row);
-        if (Chance(0.4F)) return;
+        if (Chance(0.3F)) return;
         // Walls all round: nothing that moves can end the run early.
         for (int x = col - 1; x <= col + 1; ++x) {
             for (int y = row - 1; y <= row + 1; ++y) {
