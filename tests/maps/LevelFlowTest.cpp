@@ -44,29 +44,29 @@ TEST(Level, WinAsksAndGoesOnThroughTheList) {
         "read .\\Default.TBL; box 36 " + ask + "Default.TBL Do you want to try and locate it?; ";
     const std::string locate = lost + "open .; Open; TBM maplist (*.TBL)|*.TBL; ";
     const std::string plain = "read .\\Default.TBL; ";
-    for (const Case& c : std::array<Case, 12>{
-             {{"no", "", "two\nx", "", "no", "end"},
-              {"the next one", "", "one\r\ntwo\r\nlevel three\r\n", "", "yes",
-               plain + "[Level] LOAD=level three.TBM; " + StartsAnew},
-              {"another list", "far", "", "two,four", "yes",
-               "read .\\far.TBL; [Level] LOAD=four.TBM; " + StartsAnew},
-              {"the first of two records", "", "two\none\ntwo\nthree\n", "", "yes",
-               plain + "[Level] LOAD=one.TBM; " + StartsAnew},
-              {"a blank line follows", "", "two\n\nthree\n", "", "yes",
-               plain + "[Level] LOAD=.TBM; " + StartsAnew},
-              {"the last one", "", "one\ntwo\n", "", "yes", plain + more},
-              {"empty list", "", "", "", "yes", plain + more},
-              {"case counts; not located", "", "Two\nx\n", "", "yes|no", lost + "end"},
-              {"located nowhere", "", "x\n", "", "yes|yes|",
-               locate + "[Level] STARTMAP=False; end"},
-              {"located elsewhere, opened beside the program", "", "x\n", "two\nfive\n",
-               "yes|yes|Z:\\else\\far.TBL",
-               locate + "read .\\far.TBL; [Level] LOAD=five.TBM; " + StartsAnew},
-              {"located in vain, twice", "", "x\n", "y\n", "yes|yes|Z:\\game\\far.TBL|no",
-               locate + "read .\\far.TBL; box 36 " + ask +
-                   "far.TBL Do you want to try and locate it?; end"},
-              {"no such list", "lost", "", "", "yes",
-               "read .\\lost.TBL; box 16 The map list lost.TBL can't be opened.; end"}}}) {
+    const std::array<Case, 12> cases{
+        {{"no", "", "two\nx", "", "no", "end"},
+         {"the next one", "", "one\r\ntwo\r\nlevel three\r\n", "", "yes",
+          plain + "[Level] LOAD=level three.TBM; " + StartsAnew},
+         {"another list", "far", "", "two,four", "yes",
+          "read .\\far.TBL; [Level] LOAD=four.TBM; " + StartsAnew},
+         {"the first of two records", "", "two\none\ntwo\nthree\n", "", "yes",
+          plain + "[Level] LOAD=one.TBM; " + StartsAnew},
+         {"a blank line follows", "", "two\n\nthree\n", "", "yes",
+          plain + "[Level] LOAD=.TBM; " + StartsAnew},
+         {"the last one", "", "one\ntwo\n", "", "yes", plain + more},
+         {"empty list", "", "", "", "yes", plain + more},
+         {"case counts; not located", "", "Two\nx\n", "", "yes|no", lost + "end"},
+         {"located nowhere", "", "x\n", "", "yes|yes|", locate + "[Level] STARTMAP=False; end"},
+         {"located elsewhere, opened beside the program", "", "x\n", "two\nfive\n",
+          "yes|yes|Z:\\else\\far.TBL",
+          locate + "read .\\far.TBL; [Level] LOAD=five.TBM; " + StartsAnew},
+         {"located in vain, twice", "", "x\n", "y\n", "yes|yes|Z:\\game\\far.TBL|no",
+          locate + "read .\\far.TBL; box 36 " + ask +
+              "far.TBL Do you want to try and locate it?; end"},
+         {"no such list", "lost", "", "", "yes",
+          "read .\\lost.TBL; box 16 The map list lost.TBL can't be opened.; end"}}};
+    for (const Case& c : cases) {
         Running scene;
         scene.Services.Settings() = std::string("[Level]\nMAPLIST=") + c.MapList;
         scene.Services.Files["Z:\\game\\Default.TBL"] = c.Default;
@@ -125,19 +125,20 @@ TEST(Menu, EntriesWriteTheirSettingsAndStartAnew) {
     const std::string openList = "open .; Open; Tumbledeep maplist (*.TBL)|*.TBL";
     const std::string sure = "box 52 Are you sure you want to restart the map?";
     const std::string startsMap = "; [Level] STARTMAP=True; " + StartsAnew;
-    for (const Case& c : std::array<Case, 12>{
-             {{"MnuLoadMap", "", openMap},
-              {"MnuLoadMap", "Z:\\else\\far.TBM", openMap + "; [Level] LOAD=far.TBM" + startsMap},
-              {"MnuMapList", "", openList},
-              {"MnuMapList", "Z:\\else\\my.TBL", openList + "; [Level] MAPLIST=my"},
-              {"MnuRestart", "no", sure},
-              {"MnuRestart", "yes", sure + "; [Level] LOAD=two.TBM" + startsMap},
-              {"MnuBeginagain", "", "read .\\Default.TBL; [Level] LOAD=level one" + startsMap},
-              {"MnuStartLastMap", "", "[Level] STARTMAP=True"},
-              {"MnuOff", "", "[AutoMove] MOVE=False; [AutoMove] MODE=2"},
-              {"MnuMode1", "", "[AutoMove] MOVE=True; [AutoMove] MODE=1"},
-              {"MnuMode2", "", "[AutoMove] MOVE=True; [AutoMove] MODE=2"},
-              {"MnuMode3", "", "[AutoMove] MOVE=True; [AutoMove] MODE=3"}}}) {
+    const std::array<Case, 12> cases{
+        {{"MnuLoadMap", "", openMap},
+         {"MnuLoadMap", "Z:\\else\\far.TBM", openMap + "; [Level] LOAD=far.TBM" + startsMap},
+         {"MnuMapList", "", openList},
+         {"MnuMapList", "Z:\\else\\my.TBL", openList + "; [Level] MAPLIST=my"},
+         {"MnuRestart", "no", sure},
+         {"MnuRestart", "yes", sure + "; [Level] LOAD=two.TBM" + startsMap},
+         {"MnuBeginagain", "", "read .\\Default.TBL; [Level] LOAD=level one" + startsMap},
+         {"MnuStartLastMap", "", "[Level] STARTMAP=True"},
+         {"MnuOff", "", "[AutoMove] MOVE=False; [AutoMove] MODE=2"},
+         {"MnuMode1", "", "[AutoMove] MOVE=True; [AutoMove] MODE=1"},
+         {"MnuMode2", "", "[AutoMove] MOVE=True; [AutoMove] MODE=2"},
+         {"MnuMode3", "", "[AutoMove] MOVE=True; [AutoMove] MODE=3"}}};
+    for (const Case& c : cases) {
         Running scene;
         scene.Services.Files["Z:\\game\\Default.TBL"] = "level one\nlevel two\n";
         scene.Answer(c.Answers);

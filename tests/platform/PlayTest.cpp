@@ -180,10 +180,9 @@ TEST(TraceProgram, CallsEndWithTheirStatus) {
         for (std::size_t at = 0; (at = words.find("%D")) != std::string::npos;) {
             words.replace(at, 2, run.Folder.Path.string());
         }
-        const std::string said = (run.Folder.Path / "said").string();
-        const std::string call =
-            std::string(TUMBLEDEEP_TRACE) + " " + words + " > " + said + " 2>&1";
-        const int status = std::system(call.c_str());
+        words.insert(0, std::string(TUMBLEDEEP_TRACE) + " ");
+        words += " > " + (run.Folder.Path / "said").string() + " 2>&1";
+        const int status = std::system(words.c_str());
         EXPECT_EQ(WEXITSTATUS(status), c.Status) << c.Words;
         EXPECT_NE(run.Folder.Read("said").find(c.Says), std::string::npos)
             << c.Words << "\n"
