@@ -57,12 +57,24 @@ std::string ReadFile(const fs::path& path) {
     return bytes;
 }
 
+namespace {
+
+/// A name for a file beside another that nothing bears yet.
+fs::path FreeNameBeside(const fs::path& path) {
+    std::error_code error;
+    fs::path name = path;
+    name += ".new";
+    while (fs::exists(fs::symlink_status(name, error))) name += "-";
+    return name;
+}
+
+} // namespace
+
 bool ReplaceFile(const fs::path& path, std::string_view bytes) {
     std::error_code error;
     fs::path target = fs::weakly_canonical(path, error);
     if (error) target = path;
-    fs::path fresh = target;
-    fresh += ".new";
+    const fs::path fresh = FreeNameBeside(target);
     {
         std::ofstream file(fresh, std::ios::binary | std::ios::trunc);
         file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
