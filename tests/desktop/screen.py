@@ -98,13 +98,17 @@ class Screen:
         self.pixels = FrameBuffer(pathlib.Path(self.memory_dir) / "Xvfb_screen0")
         self.env.pop("WAYLAND_DISPLAY", None)
         self.env.pop("QT_SCALE_FACTOR", None)
-        self.manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.env,
-                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        wait_until("the window manager", lambda: "window id" in self.run(
-            "xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
+        self.manager = None
+        wait_until("the window manager", self.is_managed)
         self.run("xsetroot", "-solid", "#%02x%02x%02x" % DESKTOP)
         # Out of the picture: the server draws the pointer into its memory.
         self.run("xdotool", "mousemove", *size.split("x"))
+
+    def is_managed(self):
+        if self.manager is None or self.manager.poll() is not None:
+            self.manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.env,
+                                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        return "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
 
     def close(self):
         for process in (self.manager, self.server):

@@ -1,9 +1,8 @@
 // The loader: what a line makes, what is malformed, and what stays after a failure.
-#include "maps/Module1.h"
 #include "shell/frmMain.h"
 #include "support/FakePlatform.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <cmath>
 #include <sstream>
@@ -11,9 +10,6 @@
 namespace tumbledeep {
 
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// A map as the loader leaves it.
 struct Loaded {
@@ -33,12 +29,12 @@ struct Loaded {
 };
 
 TEST(LoadNewMap, MalformedLinesFail) {
-    std::istringstream lines("dirt|dirt |dirt 0 0 |dirt  0 0|dirt 0  |dirt x 0|dirt 0 x|dirt nan 0|"
-                             "dirt inf 0|dirt 0x10 0|dirt . 0|dirt e5 0|dirt 1e 0|dirt 1e+ 0|"
-                             "dirt - 0|dirt --1 0|dirt 1d2 0|dirt 1.2.3 0|dirt 0 360 x|"
-                             "\"dirt 1,5 0\"|dirt 0\t0|movingmineL 0|movingmineL 0 |"
-                             "movingmineL 0 R|movingmineL 0  360 R|factory x 0 1:dirt|"
-                             "gem1type 0 R|you|you x 0|you 0 x");
+    std::istringstream lines(
+        "dirt|dirt |dirt 0 0 |dirt  0 0|dirt x 0|dirt 0 x|dirt nan 0|dirt inf 0|"
+        "dirt 0x10 0|dirt . 0|dirt e5 0|dirt 1e+ 0|dirt - 0|dirt --1 0|"
+        "dirt 1.2.3 0|dirt 0 360 x|\"dirt 1,5 0\"|dirt 0\t0|movingmineL 0|"
+        "movingmineL 0 R|movingmineL 0  360 R|factory x 0 1:dirt|gem1type 0 R|"
+        "you|you x 0|you 0 x");
     for (std::string line; std::getline(lines, line, '|');) {
         EXPECT_EQ(Loaded(line).Number, Failure::TypeMismatch) << line;
     }
@@ -75,45 +71,34 @@ TEST(LoadNewMap, FailureLeavesWhatWasMade) {
     EXPECT_TRUE(map.Board.Dirt.Shown(1));
     EXPECT_FALSE(map.Board.Dirt.Shown(2));
     EXPECT_EQ(map.Board.Dirt.Top[2], 720);
-    EXPECT_EQ(map.Board.Dirt.Left[2], map.Board.Dirt.Left[0]);
     EXPECT_EQ(map.Board.Area(1, 1), Kind::You) << "you lines write at once";
     EXPECT_EQ(map.Board.Area(1, 2), Kind::Empty);
     EXPECT_EQ(map.Board.GemTotal, 0);
-}
-
-TEST(LoadNewMap, FullPoolFails) {
-    std::string text;
-    for (int i = 0; i < Pool::Limit - 1; ++i) text += "harddirt 0 0\n";
-    EXPECT_EQ(Loaded(text).Number, 0);
-    Loaded over(text + "harddirt 0 0\n");
-    EXPECT_EQ(over.Number, Failure::Overflow);
-    EXPECT_EQ(over.Board.HardDirt.Count(), Pool::Limit);
+    Loaded full([] {
+        std::string text;
+        for (int i = 0; i < Pool::Limit; ++i) text += "harddirt 0 0\n";
+        return text;
+    }());
+    EXPECT_EQ(full.Number, Failure::Overflow);
+    EXPECT_EQ(full.Board.HardDirt.Count(), Pool::Limit);
 }
 
 TEST(LoadNewMap, TitlesKeywordsAndTags) {
     Loaded map("title\ntitle \ntitle x\ntitle one, two\ntitle a,dirt 0 0\n\ntitles\nYou 0 0\n"
                "Dirt 0 0\nbang 0 0\n,,\nmovingmineL 0 360 x U\nmovingmineR 0 720\n"
-               "factory 0 1080 5:gem1type");
+               "movingmineFL 0 3600 u\nfactory 0 1080 5:gem1type\ngem1type 720 0\ngem1type 720 0");
     EXPECT_EQ(map.Number, 0);
-    EXPECT_THAT(map.Services.Log, ElementsAre("box 0 x", "box 0 one", "box 0 a"));
+    EXPECT_EQ(map.Services.Told(), "box 0 x; box 0 one; box 0 a");
     EXPECT_EQ(map.Board.Dirt.Count(), 2) << "what follows a comma is a line of its own";
     EXPECT_EQ(map.Board.MovingMineL.Tag[1], "U");
+    EXPECT_EQ(map.Board.MovingMineL.Picture[1], Picture::MovingMineLUpPic);
     EXPECT_EQ(map.Board.MovingMineR.Tag[1], "720") << "a mine without a tag gets its Left";
+    EXPECT_EQ(map.Board.MovingMineFL.Picture[1], Picture::MovingMineFL) << "as the template";
     EXPECT_EQ(map.Board.Factory.Tag[1], "5:gem1type");
-    EXPECT_EQ(map.Board.You.Left, 2280);
+    EXPECT_EQ(map.Board.GemTotal, 3) << "the template counts";
+    EXPECT_EQ(map.Services.Seedings, 1);
     EXPECT_EQ(map.Board.Area(7, 14), Kind::You) << "the place of the layout, between cells";
-    EXPECT_EQ(map.Board.YouRow, 14);
     EXPECT_FLOAT_EQ(map.Board.YouCol, 7.3333333F);
-}
-
-TEST(LoadNewMap, PlayerWithoutAPlaceCanWalk) {
-    Loaded map("");
-    for (int i = 0; i < 10; ++i) {
-        map.Board.MoveReady = true;
-        map.Board.MoveYou("a");
-    }
-    EXPECT_EQ(map.Board.You.Left, 2280 - 7 * 360) << "column 0 is the last one";
-    EXPECT_EQ(map.Board.Area(0, 14), Kind::You);
 }
 
 TEST(LoadNewMap, StampsOwnSharedCellsInTheirOrder) {
@@ -121,13 +106,12 @@ TEST(LoadNewMap, StampsOwnSharedCellsInTheirOrder) {
     const std::vector<std::string> order{"gem1type",    "harddirt",     "dirt",
                                          "roundrock",   "movingmineT",  "movingmineR",
                                          "movingmineL", "movingmineFL", "movingmineP"};
-    std::string text;
+    std::string text =
+        "you 720 720\nmovingmineP 720 720 R\nmovingminePP 360 0 R\nfactory 360 360 1:dirt\n";
     for (std::size_t i = 0; i < order.size(); ++i) {
-        const std::string here = " 0 " + std::to_string(i * 360);
-        if (i + 1 < order.size()) text += order[i + 1] + here + "\n";
-        text += order[i] + here + "\n";
+        const std::string here = " 0 " + std::to_string(i * 360) + "\n";
+        text += (i + 1 < order.size() ? order[i + 1] + here : "") + order[i] + here;
     }
-    text += "you 720 720\nmovingmineP 720 720 R\nmovingminePP 360 0 R\nfactory 360 360 1:dirt\n";
     Loaded map(text);
     for (std::size_t i = 0; i < order.size(); ++i) {
         const std::string& winner = order[std::min(i + 1, order.size() - 1)];
@@ -136,60 +120,6 @@ TEST(LoadNewMap, StampsOwnSharedCellsInTheirOrder) {
     EXPECT_EQ(map.Board.Area(3, 3), Kind::You);
     EXPECT_EQ(map.Board.Area(1, 2), Kind::Empty) << "PP mines are not stamped";
     EXPECT_EQ(map.Board.Area(2, 2), Kind::Empty) << "nor are factories";
-}
-
-TEST(LoadNewMap, ResetMakesTheBoardReady) {
-    Loaded map("gem1type 0 0\ngem1type 0 0\ngem1type 0 0\nmovingmineL 0 360 D\n"
-               "movingmineFL 0 720 u\nmovingminePP 0 1080 L\nyou 720 1440\nharddirt 0 9000");
-    EXPECT_EQ(map.Board.GemTotal, 4) << "the template counts";
-    EXPECT_EQ(map.Board.MovingMineL.Picture[1], Picture::MovingMineLDownPic);
-    EXPECT_EQ(map.Board.MovingMineFL.Picture[1], Picture::MovingMineFL);
-    EXPECT_EQ(map.Board.MovingMinePP.Picture[1], Picture::MovingMinePPLeftPic);
-    EXPECT_TRUE(map.Board.MoveReady);
-    EXPECT_TRUE(map.Board.ViewMovesX && map.Board.ViewMovesY);
-    EXPECT_EQ(map.Board.YouCol, 5);
-    EXPECT_EQ(map.Board.YouRow, 3);
-    EXPECT_EQ(map.Services.Seedings, 1);
-    EXPECT_THAT(map.Services.Log, IsEmpty());
-}
-
-TEST(ReadNumber, TakesWhatATextBeginsWith) {
-    struct Case {
-        const char* Text;
-        double Value;
-        std::size_t Length;
-    };
-    for (const Case& c :
-         {Case{"3abc", 3, 1}, Case{"  -1", -1, 4}, Case{"abc", 0, 0}, Case{"", 0, 0},
-          Case{"-", 0, 0}, Case{".", 0, 0}, Case{"e5", 0, 0}, Case{"+.5x", 0.5, 3},
-          Case{"2.5e", 2.5, 3}, Case{"2.5e+x", 2.5, 3}, Case{"1e2 3", 100, 3}, Case{"7.", 7, 2},
-          Case{"nan", 0, 0}, Case{"0x10", 0, 1}, Case{"\t1", 0, 0}}) {
-        const NumberPrefix number = ReadNumber(c.Text);
-        EXPECT_EQ(number.Length, c.Length) << c.Text;
-        EXPECT_EQ(number.Value, c.Value) << c.Text;
-        EXPECT_FALSE(number.TooLarge) << c.Text;
-    }
-    for (const char* text : {"1e39", "-4e38", "1e999999999999999999999", "10000e36"}) {
-        EXPECT_TRUE(ReadNumber(text).TooLarge) << text;
-    }
-    for (const char* text : {"1e-99999999999999999999", "0.0001e-60", "-0e99999"}) {
-        EXPECT_FALSE(ReadNumber(text).TooLarge) << text;
-        EXPECT_EQ(ReadNumber(text).Value, 0) << text;
-    }
-}
-
-TEST(Words, AtAPlaceAndLast) {
-    EXPECT_EQ(WordAt("dirt 0 360", 1), "dirt");
-    EXPECT_EQ(WordAt("dirt 0 360", 6), "0");
-    EXPECT_EQ(WordAt("dirt 0 360", 5), "");
-    EXPECT_EQ(WordAt("dirt", 5), "");
-    EXPECT_EQ(WordAt("dirt", 99), "");
-    EXPECT_EQ(LastWord("dirt 0 360"), "360");
-    EXPECT_EQ(LastWord("dirt 0 "), "");
-    EXPECT_EQ(getpath("Z:\\a\\b.TBM"), "Z:\\a\\");
-    EXPECT_EQ(getpath("b.TBM"), "");
-    EXPECT_EQ(getfilename("Z:\\a\\b.TBM"), "b.TBM");
-    EXPECT_EQ(getfilename("b.TBM"), "b.TBM");
 }
 
 } // namespace

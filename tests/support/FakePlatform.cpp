@@ -29,6 +29,12 @@ void FakePlatform::Note(const std::string& what, std::string text) {
     Log.push_back(what + " " + text);
 }
 
+std::string FakePlatform::Told() const {
+    std::string told;
+    for (const std::string& entry : Log) told += (told.empty() ? "" : "; ") + entry;
+    return told;
+}
+
 int FakePlatform::MsgBox(const std::string& text, int style) {
     Note("box " + std::to_string(style), text);
     if (style != MsgBoxStyle::Question && style != MsgBoxStyle::Exclamation) {

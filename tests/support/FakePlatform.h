@@ -33,6 +33,8 @@ class FakePlatform final : public Platform {
     // directory shown as ".".
 
     std::vector<std::string> Log;
+    /// The log on one line, "; " between its entries.
+    std::string Told() const;
     int Seedings = 0;
     int Drags = 0;
 
