@@ -52,7 +52,7 @@ void DesktopPlatform::AwaitSuccessor() { successor.AwaitShown(LongestGap); }
 
 template <class Dialog> int DesktopPlatform::Show(Dialog& dialog) {
     BeforeDialog();
-    const int result = dialog.exec();
+    const int result = quitting ? 0 : dialog.exec();
     AfterDialog();
     if (quitting) End();
     return result;

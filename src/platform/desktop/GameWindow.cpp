@@ -5,10 +5,12 @@
 #include "shell/Catalogue.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QWindow>
 
 #include <array>
 
@@ -18,6 +20,8 @@ namespace {
 
 constexpr float TwipsPerPixel = 15;
 constexpr int StatusPictureSize = 14;
+/// In milliseconds; without a window manager the focus never comes.
+constexpr int FocusPatience = 500;
 
 } // namespace
 
@@ -170,11 +174,25 @@ void GameWindow::ConnectDialogs() {
         ++openDialogs;
         Sync();
         TellShown();
+        AwaitFocus();
     };
     platform.AfterDialog = [this] {
         --openDialogs;
         TakeOuterSize();
     };
+}
+
+/// A dialog that comes up before its parent has ever had the focus may never be given it.
+void GameWindow::AwaitFocus() {
+    if (hadFocus || QGuiApplication::focusWindow() != nullptr) {
+        hadFocus = true;
+        return;
+    }
+    QEventLoop loop;
+    connect(qApp, &QGuiApplication::focusWindowChanged, &loop, &QEventLoop::quit);
+    QTimer::singleShot(FocusPatience, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    hadFocus = true;
 }
 
 void GameWindow::TellShown() {

@@ -36,6 +36,7 @@ class GameWindow final : public QMainWindow {
     void BuildStatusBar();
     void ConnectCanvas();
     void ConnectDialogs();
+    void AwaitFocus();
     void TellShown();
 
     frmMain& game;
@@ -50,6 +51,7 @@ class GameWindow final : public QMainWindow {
     int shownPipe;
     bool started = false;
     bool ended = false;
+    bool hadFocus = false;
 };
 
 } // namespace tumbledeep
