@@ -96,9 +96,9 @@ class Measure(screen.GameTest):
         hand.stdin.close()
         # The successor is maximised, so its board's floor reaches the corner.
         while pixel.at(*corner) != screen.WHITE and time.monotonic() - start < 5:
-            before = time.monotonic()
-            if pixel.at(*spot) == screen.DESKTOP:
-                bare += time.monotonic() - before
+            before, gone = time.monotonic(), pixel.at(*spot) == screen.DESKTOP
+            time.sleep(0.0005)  # the other processor's work is what is measured
+            bare += time.monotonic() - before if gone else 0
         elapsed = 1000 * (time.monotonic() - start)
         hand.wait()
         self.wait_for_successor(first)

@@ -6,16 +6,13 @@ namespace tumbledeep {
 TEST(GemTick, FallsRollsRestsAndIsTaken) {
     PlayFilms(R"(
         = taken at the turn after the fall
-            #*#   #.#   #.#
-            #.#   #*#   #.#
-            #@#   #@#   #@#
-        = taken at rest
-            *   .
-            @   @
-        = no harm to a mine
-            .*.   ...   ...
-            ...   .*.   .*.
-            .L.   .L.   .L.
+            *   .   .
+            .   *   .
+            @   @   @
+        = no harm to a mine; at rest on the player it is taken
+            *#*   .#.   .#.
+            .#@   *#@   *#@
+            L##   L##   L##
         = rolls off gems, rocks and T mines, rests on all else | draw:R
             .*..*..*..*..*..*..*..*..*.   ..*..*..*.*..*..*..*..*..*.
             .*..O..T..L..R..F..P..:..X.   .*..O..T..L..R..F..P..:..X.

@@ -5,15 +5,11 @@ namespace tumbledeep {
 
 TEST(RockTick, FallsRollsAndRests) {
     PlayFilms(R"(
-        = one cell a call, to the floor
-            #O#   #.#   #.#   #.#
-            #.#   #O#   #.#   #.#
-            #.#   #.#   #O#   #O#
-            ###   ###   ###   ###
-        = past a factory
-            #O#   #.#   #.#
-            #^#   #O#   #^#
-            #.#   #.#   #O#
+        = a fall past a factory onto a gem
+            #O#O#   #.#.#   #.#.#
+            #^#.#   #O#O#   #^#O#
+            #.#*#   #.#*#   #O#*#
+            #####   #####   #####
         = all that roll go to one side | draw:R
             .O...O.   ..O...O
             .O...*.   .O...*.
@@ -21,18 +17,10 @@ TEST(RockTick, FallsRollsAndRests) {
         = no roll off dirt, walls, mines and Bangs
             .O..O..O..O..O..O..O..O.   .O..O..O..O..O..O..O..O.
             .:..#..T..L..R..F..P..X.   .:..#..T..L..R..F..P..X.
-        = one try, on the drawn side | draw:LR
-            #O.   #O.   #.O
-            #*.   #*.   #*.
-            ###   ###   ###
-        = the cell below the target has to be free too | draw:R
-            #O.   #O.
-            #*:   #*:
-        = a gem is not crushed
-            #O#   #.#   #.#
-            #.#   #O#   #O#
-            #*#   #*#   #*#
-            ###   ###   ###)",
+        = one try, on the drawn side, and the cell below the target has to be free too | draw:LR
+            #O.#O.   #O.#O.   #.O#O.
+            #*.#*:   #*.#*:   #*.#*:
+            ######   ######   ######)",
               &frmDocument::RockTick);
 }
 

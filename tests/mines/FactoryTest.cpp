@@ -1,8 +1,6 @@
 // Factories: rest, products, and who marks the cell.
 #include "support/Scenario.h"
 
-#include <limits>
-
 namespace tumbledeep {
 
 constexpr auto FactoryTick = &frmDocument::FactoryTick;
@@ -12,15 +10,12 @@ TEST(Factory, RestsBetweenProducts) {
         = two | ^:2:roundrock
             ^ ^ ^ O O
         = none, and any separator | ^:0/dirt
-            ^ :
-        = nine | ^:9:movingmineT
-            ^ ^ ^ ^ ^ ^ ^ ^ ^ ^ T)",
+            ^ :)",
               FactoryTick);
-    Scenario scene("^ . ^ :", "^:1:dirt");
+    Scenario scene("^ ^ :", "^:1:dirt");
     scene.Board.Area(1, 1) = Kind::You;
     for (int i = 0; i < 5; ++i) scene.Run(FactoryTick);
     scene.Board.Area(1, 1) = Kind::Empty;
-    EXPECT_TRUE(scene.NextArea());
     scene.Run(FactoryTick);
     EXPECT_TRUE(scene.Next()) << "the rest counts from the moment that the cell is free";
     scene.Run(FactoryTick);
@@ -46,12 +41,8 @@ TEST(Factory, OnlyAReusedSpriteMarksTheCell) {
 TEST(Factory, ProductsMoveInTheTickThatMadeThem) {
     PlayFilms(R"(
         = a mine heads down | tick:10 ^:0:movingmineL
-            ^..   ^..
-            ...   L..
-        = a T mine goes off | tick:10 ^:0:movingmineT
-            ^   ^
-            .   X
-            #   #
+            ^.   ^.
+            ..   L.
         = a blast leaves the factory | tick:30 ^:0:bang
             :#:   .#.
             O^*   .^*
@@ -62,25 +53,6 @@ TEST(Factory, RecipesThatMakeNothing) {
     for (const char* recipe : {"x:dirt", "0", "0:", "0:you", "0:factory", "0:Dirt", "-1:dirt"}) {
         PlayFilms(std::string("= ") + recipe + " | ^:" + recipe + "\n^ ^ ^", FactoryTick);
     }
-}
-
-TEST(Factory, CountersStayAtTheirLimit) {
-    Scenario scene("^", "^:9:dirt");
-    const std::int16_t limit = std::numeric_limits<std::int16_t>::max();
-    scene.Board.FactoryCount = {limit, 8};
-    scene.Run(FactoryTick);
-    EXPECT_EQ(scene.Board.FactoryCount, (std::vector<std::int16_t>{limit, 9}));
-}
-
-TEST(Factory, MoreThanTwentyFiveWorkEachAtItsOwnRhythm) {
-    Scenario scene(std::string(30, '^') + " " + std::string(30, ':'), "^:1:dirt");
-    scene.Run(FactoryTick);
-    scene.Board.FactoryCount[30] = 0;
-    scene.Run(FactoryTick);
-    EXPECT_EQ(scene.AreaAt(30, 1), Kind::Empty);
-    EXPECT_EQ(scene.Board.FactoryCount[30], 1);
-    scene.Run(FactoryTick);
-    EXPECT_TRUE(scene.NextSprites());
 }
 
 } // namespace tumbledeep

@@ -8,18 +8,12 @@ constexpr auto MineRTick = &frmDocument::MineRTick;
 
 TEST(WallMine, CirclesInTheOpenAndRoundABlock) {
     PlayFilms(R"(
-        = anticlockwise
-            ...   ...   ..L   .L.   ...
-            .L.   ..L   ...   ...   .L.
         = the wall at the left hand | L:L
             .L.   L..   ...   ...   ...   ...   ...   ..L   .L.
             .#.   .#.   L#.   .#.   .#.   .#.   .#L   .#.   .#.
             ...   ...   ...   L..   .L.   ..L   ...   ...   ...)",
               MineLTick);
     PlayFilms(R"(
-        = clockwise
-            .R.   ..R   ...   ...   .R.
-            ...   ...   ..R   .R.   ...
         = the wall at the right hand
             .R.   ..R   ...   ...   ...   ...   ...   R..   .R.
             .#.   .#.   .#R   .#.   .#.   .#.   R#.   .#.   .#.
@@ -30,18 +24,15 @@ TEST(WallMine, CirclesInTheOpenAndRoundABlock) {
 TEST(WallMine, BlockedItTurnsAndWaits) {
     PlayFilms(R"(
         = the far side is taken without a look
-            ####   ####   ####   ####   ####   ####
-            L..#   .L.#   ..L#   ..L#   ..L#   .L.#
-            ####   ####   ####   ####   ####   ####
+            ###   ###   ###   ###   ###
+            L.#   .L#   .L#   .L#   L.#
+            ###   ###   ###   ###   ###
         = the hand side is taken if it is free
             #.##   #.##   #L##
             #L:#   #L:#   #.:#
         = an odd tag never moves | L:u
             L.   L.   L.
-        = the front mine first: both move | a=L:R b=L:R
-            #####   #####
-            ba..#   .LL.#
-        = the rear mine first: it is blocked and turns | a=L:R b=L:R
+        = the rear mine of a pair first: it is blocked and turns | a=L:R b=L:R
             #####   #####   #####
             ab..#   L.L.#   ...L#
             ..###   ..###   L.###)",
@@ -53,8 +44,6 @@ TEST(WallMine, KillsWhoeverStandsNextToItAtTheEndOfItsTurn) {
         = after a step | dies
             ####   ####
             L.@#   .L@#
-        = after a turn alone | dies
-            L@   L@
         = with an odd tag | L:u dies
             L   L
             @   @
@@ -62,10 +51,6 @@ TEST(WallMine, KillsWhoeverStandsNextToItAtTheEndOfItsTurn) {
             L#   L#
             #@   #@)",
               MineLTick);
-    Scenario hidden("L@ .@");
-    hidden.Board.MovingMineL.Visible[1] = false;
-    hidden.Run(MineLTick);
-    EXPECT_FALSE(hidden.Ended);
 }
 
 TEST(WallMine, ShutInTurnsByAQuarterEachTime) {
@@ -79,21 +64,6 @@ TEST(WallMine, ShutInTurnsByAQuarterEachTime) {
         }
         EXPECT_EQ(seen, tags);
     }
-}
-
-TEST(WallMine, PictureChangesWithATurnAndNotWithAStep) {
-    Scenario scene(R"(
-        ###.
-        L...)");
-    const PoolSprite mine = scene.Board.MovingMineL[1];
-    EXPECT_EQ(mine.Picture, Picture::MovingMineLRightPic);
-    mine.Picture = Picture::MovingMineL;
-    scene.Run(MineLTick);
-    scene.Run(MineLTick);
-    EXPECT_EQ(mine.Picture, Picture::MovingMineL);
-    scene.Run(MineLTick); // the wall ends: a step and a turn in one call
-    EXPECT_EQ(mine.Picture, Picture::MovingMineLUpPic);
-    EXPECT_EQ(mine.Left, 3 * 360);
 }
 
 } // namespace tumbledeep

@@ -26,19 +26,4 @@ TEST(Script, FaultsNameFileAndLine) {
     }
 }
 
-TEST(Script, TextsAreTakenAsTheyStand) {
-    const Script script = ReadScript("s",
-                                     "answer text\r\nanswer text  two  blanks \nat 3 type  d\n"
-                                     "at 3 drag -15 30\n   \nat 7 resize 100x200",
-                                     &IsMenuHandler);
-    ASSERT_EQ(script.Answers.size(), 2U);
-    EXPECT_EQ(script.Answers[0].Text, "");
-    EXPECT_EQ(script.Answers[1].Text, " two  blanks ");
-    ASSERT_EQ(script.Events.size(), 3U);
-    EXPECT_EQ(script.Events[0].Text, " d");
-    EXPECT_EQ(script.Events[1].X, -15);
-    EXPECT_EQ(script.Events[2].Step, 7);
-    EXPECT_EQ(script.Events[2].Y, 200);
-}
-
 } // namespace tumbledeep

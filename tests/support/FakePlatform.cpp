@@ -7,16 +7,6 @@
 
 namespace tumbledeep {
 
-namespace {
-
-/// The path with single "\" between its folders.
-std::string Plain(std::string path) {
-    for (std::size_t at = 0; (at = path.find("\\\\")) != std::string::npos;) path.erase(at, 1);
-    return path;
-}
-
-} // namespace
-
 std::string FakePlatform::NextAnswer() {
     if (Answers.empty()) return "";
     std::string answer = Answers.front();
@@ -26,17 +16,11 @@ std::string FakePlatform::NextAnswer() {
 
 void FakePlatform::Note(const std::string& what, std::string text) {
     if (text.starts_with(Directory)) text.replace(0, std::string(Directory).size(), ".");
-    Log.push_back(what + " " + text);
-}
-
-std::string FakePlatform::Told() const {
-    std::string told;
-    for (const std::string& entry : Log) told += (told.empty() ? "" : "; ") + entry;
-    return told;
+    Log += (Log.empty() ? "" : "; ") + what + text;
 }
 
 int FakePlatform::MsgBox(const std::string& text, int style) {
-    Note("box " + std::to_string(style), text);
+    Note("box " + std::to_string(style) + " ", text);
     if (style != MsgBoxStyle::Question && style != MsgBoxStyle::Exclamation) {
         return MsgBoxAnswer::Ok;
     }
@@ -44,12 +28,12 @@ int FakePlatform::MsgBox(const std::string& text, int style) {
 }
 
 std::string FakePlatform::InputBox(const std::string& prompt) {
-    Note("input", prompt);
+    Note("input ", prompt);
     return NextAnswer();
 }
 
 void FakePlatform::ShowOpen(CommonDialog& dialog) {
-    Note("open", dialog.InitDir + "; " + dialog.DialogTitle + "; " + dialog.Filter);
+    Note("open ", dialog.InitDir + "; " + dialog.DialogTitle + "; " + dialog.Filter);
     dialog.FileName = NextAnswer();
     dialog.FileTitle = dialog.FileName.substr(dialog.FileName.rfind('\\') + 1);
 }
@@ -67,23 +51,21 @@ float FakePlatform::Rnd() {
 }
 
 std::string FakePlatform::OpenForInput(const std::string& path) {
-    const std::string plain = Plain(path);
-    Note("read", plain);
-    if (Unreadable.contains(plain)) throw Failure{Failure::FileAccess};
-    const auto file = Files.find(plain);
-    if (file == Files.end()) throw Failure{Failure::FileNotFound};
-    return file->second;
+    std::string plain = path; // single "\" between the folders
+    for (std::size_t at = 0; (at = plain.find("\\\\")) < plain.size();) plain.erase(at, 1);
+    Note("read ", plain);
+    if (!Files.contains(plain)) throw Failure{Failure::FileNotFound};
+    return Files[plain];
 }
 
 std::string FakePlatform::GetPrivateProfileString(std::string_view section, std::string_view key,
                                                   const std::string& path) {
-    const auto file = Files.find(path);
-    return file == Files.end() ? "" : ProfileValue(file->second, section, key);
+    return ProfileValue(Files[path], section, key);
 }
 
 void FakePlatform::WritePrivateProfileString(std::string_view section, std::string_view key,
                                              std::string_view value, const std::string& path) {
-    Log.push_back("[" + std::string(section) + "] " + std::string(key) + "=" + std::string(value));
+    Note("[" + std::string(section) + "] " + std::string(key) + "=", std::string(value));
     Files[path] = ProfileWith(Files[path], section, key, value);
 }
 

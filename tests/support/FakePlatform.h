@@ -8,7 +8,6 @@
 #include <map>
 #include <set>
 #include <string>
-#include <vector>
 
 namespace tumbledeep {
 
@@ -21,7 +20,6 @@ class FakePlatform final : public Platform {
     std::string CommandLine;
     std::deque<std::string> Answers; ///< "yes" or "no", a text, a file's full path; "" cancels
     std::map<std::string, std::string> Files; ///< by full path
-    std::set<std::string> Unreadable;         ///< full paths of files that can't be read
     std::deque<float> Draws;                  ///< the next random numbers
     std::function<float()> FurtherDraws = [] { return 0.0F; };
     std::set<int> KeysDown; ///< virtual key codes
@@ -29,25 +27,21 @@ class FakePlatform final : public Platform {
     /// The text of the settings file.
     std::string& Settings() { return Files[std::string(Directory) + "\\Tumbledeep.ini"]; }
 
-    // What it was asked: a line for each dialog, write, file read and process, the program's
+    // What it was asked: an entry for each dialog, write, file read and process, the program's
     // directory shown as ".".
 
-    std::vector<std::string> Log;
-    /// The log on one line, "; " between its entries.
-    std::string Told() const;
-    int Seedings = 0;
-    int Drags = 0;
+    std::string Log; ///< "; " between its entries
 
     int MsgBox(const std::string& text, int style) override;
     std::string InputBox(const std::string& prompt) override;
     void ShowOpen(CommonDialog& dialog) override;
-    void DragBoard() override { ++Drags; }
-    void Shell(const std::string& commandLine) override { Note("start", commandLine); }
+    void DragBoard() override {}
+    void Shell(const std::string& commandLine) override { Note("start ", commandLine); }
     std::string AppPath() const override { return Directory; }
     std::string Command() const override { return CommandLine; }
     /// The low bit, which tells a key that was pressed before, is always set.
     short GetKeyState(int virtualKey) const override;
-    void Randomize() override { ++Seedings; }
+    void Randomize() override {}
     float Rnd() override;
     std::string OpenForInput(const std::string& path) override;
     std::string GetPrivateProfileString(std::string_view section, std::string_view key,
@@ -56,7 +50,7 @@ class FakePlatform final : public Platform {
                                    std::string_view value, const std::string& path) override;
 
   protected:
-    void Ending() override { Log.emplace_back("end"); }
+    void Ending() override { Note("end", ""); }
 
   private:
     std::string NextAnswer();

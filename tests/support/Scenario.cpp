@@ -10,7 +10,6 @@ namespace tumbledeep {
 namespace {
 
 constexpr std::string_view Looks = ".@:#*OTLRFPQX"; ///< in the order of Kind
-constexpr std::string_view Mines = "LRFPQ";
 
 /// A line of a map; a tag is written only where there is one.
 std::string MapLine(char look, Cell cell, const std::string& tag = "") {
@@ -18,11 +17,6 @@ std::string MapLine(char look, Cell cell, const std::string& tag = "") {
     return std::string(look == '^' ? "factory" : KindText(kind)) + " " +
            std::to_string((cell.Row - 1) * 360) + " " + std::to_string((cell.Col - 1) * 360) +
            (tag.empty() ? "" : " " + tag) + "\n";
-}
-
-bool StandsAt(const auto& sprite, Cell cell) {
-    const Cell own = Near(sprite);
-    return own.Col == cell.Col && own.Row == cell.Row;
 }
 
 } // namespace
@@ -71,17 +65,16 @@ std::string Scenario::MapText(std::string_view cast) const {
     };
     std::istringstream actors{std::string(cast)};
     for (std::string actor; actors >> actor;) {
-        const bool hasLook = actor.size() > 2 && actor[1] == '=';
         const std::size_t colon = actor.find(':', 1);
-        place(actor[0], hasLook ? actor[2] : actor[0],
-              colon == std::string::npos ? "" : actor.substr(colon + 1));
+        place(actor[0], actor[1] == '=' ? actor[2] : actor[0],
+              colon < actor.size() ? actor.substr(colon + 1) : "");
     }
     for (const char look : std::string_view("@:#*OTLRFPQ^")) {
-        if (named.find(look) != std::string::npos) continue;
-        place(look, look, Mines.find(look) != std::string_view::npos ? "R" : "");
+        const bool heads = std::string_view("LRFPQ").find(look) < 5;
+        if (named.find(look) > named.size()) place(look, look, heads ? "R" : "");
     }
-    if (drawn.find('@') == std::string::npos) text += MapLine('@', {299, 299});
-    if (drawn.find('*') == std::string::npos) text += MapLine('*', {300, 300});
+    if (drawn.find('@') > drawn.size()) text += MapLine('@', {299, 299});
+    if (drawn.find('*') > drawn.size()) text += MapLine('*', {300, 300});
     return text;
 }
 
@@ -111,45 +104,46 @@ void Scenario::Run(Routine routine) {
 }
 
 char Scenario::LookOfSprites(Cell cell) {
-    int count = StandsAt(Board.You, cell) ? 1 : 0;
-    char look = count > 0 ? '@' : '.';
+    const auto standsHere = [cell](const auto& sprite) {
+        const Cell own = Near(sprite);
+        return own.Col == cell.Col && own.Row == cell.Row;
+    };
+    std::string looks = standsHere(Board.You) ? "@" : "";
     for (std::size_t kind = 0; kind < Looks.size(); ++kind) {
         Pool* const pool = Board.PoolOf(static_cast<Kind>(kind));
         for (int i = 0; pool != nullptr && i < pool->Count(); ++i) {
-            if (!pool->Shown(i) || !StandsAt((*pool)[i], cell)) continue;
-            ++count;
-            look = Looks[kind];
+            if (pool->Shown(i) && standsHere((*pool)[i])) looks += Looks[kind];
         }
     }
-    for (int i = 0; count == 0 && i < Board.Factory.Count(); ++i) {
-        if (Board.Factory.Shown(i) && StandsAt(Board.Factory[i], cell)) look = '^';
+    if (looks.size() > 1) return static_cast<char>('0' + looks.size());
+    for (int i = 0; looks.empty() && i < Board.Factory.Count(); ++i) {
+        if (Board.Factory.Shown(i) && standsHere(Board.Factory[i])) looks = "^";
     }
-    return count > 1 ? static_cast<char>('0' + count) : look;
+    return looks.empty() ? '.' : looks[0];
 }
 
 testing::AssertionResult Scenario::Compare(bool area, bool sprites) {
     if (FramesLeft() == 0) return testing::AssertionFailure() << "the strip has ended";
     ++shown;
-    const auto column = [](std::string text) { return text += std::string(3, ' '); };
-    std::string boards = "expected, Area, sprites:\n";
+    std::string boards;
     bool same = true;
-    for (std::size_t row = 0; row < frames[shown].size(); ++row) {
-        const std::string& expected = frames[shown][row];
-        std::string areaRow;
-        std::string spriteRow;
-        for (std::size_t col = 0; col < expected.size(); ++col) {
-            const Cell cell{topLeft.Col + static_cast<int>(col),
-                            topLeft.Row + static_cast<int>(row)};
-            areaRow += Looks[static_cast<std::size_t>(Board.Area(cell))];
-            spriteRow += LookOfSprites(cell);
-            const char inArea = expected[col] == '^' ? '.' : expected[col];
-            same = same && (!area || areaRow.back() == inArea) &&
-                   (!sprites || spriteRow.back() == expected[col]);
+    int row = topLeft.Row;
+    for (const std::string& expected : frames[shown]) {
+        std::string inArea;
+        std::string seen;
+        for (const char look : expected) {
+            const Cell cell{topLeft.Col + static_cast<int>(seen.size()), row};
+            inArea += Looks[static_cast<std::size_t>(Board.Area(cell))];
+            seen += LookOfSprites(cell);
+            same = same && (!area || inArea.back() == (look == '^' ? '.' : look)) &&
+                   (!sprites || seen.back() == look);
         }
-        boards += column(expected) + column(areaRow) + spriteRow + "\n";
+        boards += expected + "   " + inArea + "   " + seen + "\n";
+        ++row;
     }
     return (same ? testing::AssertionSuccess() : testing::AssertionFailure())
-           << "frame " << shown + 1 << "; " << boards;
+           << "frame " << shown + 1 << "; expected, Area, sprites:\n"
+           << boards;
 }
 
 namespace {
@@ -157,41 +151,34 @@ namespace {
 void PlayFilm(const std::string& header, const std::string& strip, Scenario::Routine routine) {
     SCOPED_TRACE(header);
     std::string cast;
-    std::map<std::string, std::string> options;
-    std::istringstream words(header.substr(std::min(header.find('|') + 1, header.size())));
-    for (std::string word; header.find('|') != std::string::npos && words >> word;) {
+    std::map<std::string, std::string> options{{"at", "1,1"}};
+    std::istringstream words(header);
+    words.ignore(static_cast<std::streamsize>(header.size()), '|');
+    for (std::string word; words >> word;) {
         const std::size_t colon = word.find(':');
-        if (colon == 1 || (word.size() > 1 && word[1] == '=')) {
+        if (colon == 1 || word[1] == '=') {
             cast += word + " ";
         } else {
-            options[word.substr(0, colon)] = word.substr(std::min(colon, word.size() - 1) + 1);
+            options[word.substr(0, colon)] = colon < word.size() ? word.substr(colon + 1) : "";
         }
     }
-    const auto option = [&options](const char* name, const char* otherwise = "") {
-        return options.contains(name) ? options[name] : otherwise;
-    };
-    const std::string at = option("at", "1,1");
-    const Cell origin{std::stoi(at), std::stoi(at.substr(at.find(',') + 1))};
-    Scenario scene(strip, cast, origin);
-    for (const char side : option("draw")) {
+    const bool typed = options.contains("key");
+    const std::string at = options["at"];
+    Scenario scene(strip, cast, {std::stoi(at), std::stoi(at.substr(at.find(',') + 1))});
+    for (const char side : options["draw"]) {
         scene.Services.Draws.push_back(side == 'R' ? 0.49F : 0.5F);
     }
-    for (const char key : option("held")) {
+    for (const char key : options["held"]) {
         scene.Services.KeysDown.insert(37 + static_cast<int>(std::string("LURD").find(key)));
     }
-    std::istringstream keys(option("key"));
-    for (std::string typed; scene.FramesLeft() > 0;) {
-        if (options.contains("key")) {
-            std::getline(keys, typed, ',');
-            for (const char key : typed) {
-                key == '.' ? scene.Ticks(1) : scene.Type(std::string(1, key));
-            }
-        } else if (options.contains("tick")) {
-            scene.TickNumber(std::stoi(options["tick"]));
-            options["tick"] = std::to_string(scene.Board.TickCount + 1);
-        } else {
-            scene.Run(routine);
-        }
+    int tick = options.contains("tick") ? std::stoi(options["tick"]) : -1;
+    std::istringstream keys(options["key"]);
+    while (scene.FramesLeft() > 0) {
+        if (tick >= 0) scene.TickNumber(tick++);
+        std::string frameKeys;
+        std::getline(keys, frameKeys, ',');
+        for (const char key : frameKeys) key == '.' ? scene.Ticks(1) : scene.Type({&key, 1});
+        if (!typed && tick < 0) scene.Run(routine);
         EXPECT_TRUE(options.contains("sprites") ? scene.NextSprites() : scene.Next());
     }
     EXPECT_EQ(scene.Ended, options.contains("dies"));
@@ -206,17 +193,20 @@ void PlayFilms(std::string_view films, Scenario::Routine routine) {
     std::istringstream lines{std::string(films)};
     std::string header;
     std::string strip;
+    const auto play = [&] {
+        if (!strip.empty()) PlayFilm(header, strip, routine);
+        strip.clear();
+    };
     for (std::string line; std::getline(lines, line);) {
-        const std::size_t start = line.find_first_not_of(' ');
-        if (start != std::string::npos && line[start] == '=') {
-            if (!strip.empty()) PlayFilm(header, strip, routine);
-            header = line.substr(start);
-            strip.clear();
-        } else if (start != std::string::npos) {
+        const std::size_t start = line.find('=');
+        if (start != line.find_first_not_of(' ')) {
             strip += line + "\n";
+        } else if (start != std::string::npos) {
+            play();
+            header = line;
         }
     }
-    PlayFilm(header, strip, routine);
+    play();
 }
 
 } // namespace tumbledeep

@@ -22,7 +22,6 @@ class TempFolder {
     TempFolder& operator=(const TempFolder&) = delete;
     ~TempFolder() {
         std::error_code error;
-        std::filesystem::permissions(Path, std::filesystem::perms::owner_all, error);
         std::filesystem::remove_all(Path, error);
     }
 
