@@ -21,6 +21,8 @@ constexpr QRgb ParentBackground = 0xFF808080;
 /// With more changes than this, one repaint of their bounds is cheaper than many small ones.
 constexpr std::size_t ManyChanges = 256;
 constexpr float TwipsPerPixel = 15;
+/// The game's number of the only button that it heeds.
+constexpr int LeftButton = 1;
 
 int ArrowCode(int key) {
     switch (key) {
@@ -93,6 +95,8 @@ void BoardCanvas::UpdateDevice(const QRect& device) {
 }
 
 void BoardCanvas::paintEvent(QPaintEvent* event) {
+    // A window that has moved to another screen is painted before anything else happens.
+    images.SetScale(Scale());
     QPainter painter(this);
     // Undo the scaling and a broken offset of the widget: one unit becomes one device pixel.
     const QTransform device = painter.deviceTransform();
@@ -193,16 +197,16 @@ void BoardCanvas::focusOutEvent(QFocusEvent* event) {
 }
 
 void BoardCanvas::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
     const QPointF device = ToDevicePoint(event->position());
     pressedOnBoard = OnSurface(device);
     lastMouse = device;
-    if (!pressedOnBoard) return;
-    BoardPressed(event->button() == Qt::LeftButton ? 1 : 2);
+    if (pressedOnBoard) BoardPressed(LeftButton);
 }
 
 void BoardCanvas::mouseMoveEvent(QMouseEvent* event) {
     if (!pressedOnBoard || !(event->buttons() & Qt::LeftButton)) return;
-    if (!dragging) BoardMouseMoved(1);
+    if (!dragging) BoardMouseMoved(LeftButton);
     if (!dragging) return;
     const QPointF device = ToDevicePoint(event->position());
     const QPointF moved = (device - lastMouse) / Scale();

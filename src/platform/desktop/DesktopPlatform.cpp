@@ -8,10 +8,8 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
-#include <algorithm>
 #include <chrono>
 #include <limits>
-#include <unistd.h>
 
 namespace tumbledeep {
 
@@ -91,6 +89,11 @@ void DesktopPlatform::ShowOpen(CommonDialog& dialog) {
     const bool chosen = Show(open) == QDialog::Accepted && !open.selectedFiles().isEmpty();
     dialog.FileName =
         chosen ? ProgramPath(open.selectedFiles().constFirst().toStdString()) : std::string();
+    // The dialog offers both cases, the game knows a list by capitals alone; files are found in
+    // any.
+    if (dialog.FileName.ends_with(".tbl")) {
+        dialog.FileName.replace(dialog.FileName.size() - 4, 4, ".TBL");
+    }
     dialog.FileTitle = dialog.FileName.substr(dialog.FileName.rfind('\\') + 1);
 }
 

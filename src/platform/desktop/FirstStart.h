@@ -1,4 +1,4 @@
-// The very first start plays at once, without a dialog.
+// The very first start plays the shipped list and needs no open dialog.
 #pragma once
 
 #include <filesystem>

@@ -5,6 +5,7 @@
 #include "shell/Catalogue.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QEventLoop>
 #include <QLabel>
 #include <QMenu>
@@ -55,6 +56,12 @@ GameWindow::GameWindow(frmMain& main, DesktopPlatform& services, const Options& 
                 });
             });
     Sync();
+}
+
+/// A dialog that is open or about to be must take no answer from this.
+void GameWindow::closeEvent(QCloseEvent* event) {
+    platform.Quit();
+    event->accept();
 }
 
 void GameWindow::StartGame() {

@@ -11,19 +11,20 @@
 
 #include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
 class QAction;
 class QLabel;
-class QMenu;
 
 namespace tumbledeep {
 
 class GameWindow final : public QMainWindow {
   public:
-    /// `shownPipe` is told when the board is on the screen.
+    /// The game starts by itself when the window has come up.
     GameWindow(frmMain& game, DesktopPlatform& platform, const Options& options);
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
 
   private:
     void StartGame();
@@ -48,7 +49,7 @@ class GameWindow final : public QMainWindow {
     std::string shownStatus;
     QTimer timer;
     int openDialogs = 0;
-    int shownPipe;
+    int shownPipe; ///< where a predecessor waits to be told that this window is up; then -1
     bool started = false;
     bool ended = false;
     bool hadFocus = false;

@@ -11,7 +11,6 @@
 #include <QPixmap>
 #include <QScreen>
 
-#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <memory>
