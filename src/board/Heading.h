@@ -31,6 +31,15 @@ constexpr Heading Opposite(Heading heading) {
     return opposites[static_cast<std::size_t>(heading)];
 }
 
+/// A quarter turn to the left, as seen on the screen.
+constexpr Heading LeftOf(Heading heading) {
+    constexpr std::array<Heading, 4> lefts{Heading::Left, Heading::Right, Heading::Down,
+                                           Heading::Up};
+    return lefts[static_cast<std::size_t>(heading)];
+}
+
+constexpr Heading RightOf(Heading heading) { return Opposite(LeftOf(heading)); }
+
 /// The heading that a tag names; none for any other text, lower case included.
 constexpr std::optional<Heading> HeadingOf(std::string_view tag) {
     for (std::size_t i = 0; i < HeadingTags.size(); ++i) {

@@ -4,8 +4,6 @@
 #include "platform/Platform.h"
 #include "shell/frmMain.h"
 
-#include <array>
-
 namespace tumbledeep {
 
 namespace {

@@ -4,10 +4,8 @@
 namespace tumbledeep {
 
 void frmDocument::MineLTick() {
-    static constexpr WallMine Rules{&frmDocument::MovingMineL,
-                                    Kind::MovingMineL,
-                                    Picture::MovingMineLUpPic,
-                                    {{Heading::Left, Heading::Right, Heading::Down, Heading::Up}}};
+    static constexpr WallMine Rules{&frmDocument::MovingMineL, Kind::MovingMineL,
+                                    Picture::MovingMineLUpPic, LeftOf};
     WallMineTick(Rules);
 }
 

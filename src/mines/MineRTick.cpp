@@ -4,10 +4,8 @@
 namespace tumbledeep {
 
 void frmDocument::MineRTick() {
-    static constexpr WallMine Rules{&frmDocument::MovingMineR,
-                                    Kind::MovingMineR,
-                                    Picture::MovingMineRUpPic,
-                                    {{Heading::Right, Heading::Left, Heading::Up, Heading::Down}}};
+    static constexpr WallMine Rules{&frmDocument::MovingMineR, Kind::MovingMineR,
+                                    Picture::MovingMineRUpPic, RightOf};
     WallMineTick(Rules);
 }
 

@@ -3,15 +3,13 @@
 
 #include "board/frmDocument.h"
 
-#include <array>
-
 namespace tumbledeep {
 
 struct WallMine {
     Pool frmDocument::*Mines;
     Kind Cell;
     Picture UpPic;
-    std::array<Heading, 4> Hand; ///< for each heading, a quarter turn towards the wall
+    Heading (*Hand)(Heading); ///< a quarter turn towards the wall
 };
 
 } // namespace tumbledeep

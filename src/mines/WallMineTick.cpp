@@ -18,7 +18,7 @@ void frmDocument::WallMineTick(const WallMine& rules) {
 void frmDocument::WallMineTurn(PoolSprite mine, const WallMine& rules) {
     const auto heading = HeadingOf(mine.Tag);
     if (!heading) return;
-    const Heading hand = rules.Hand[static_cast<std::size_t>(*heading)];
+    const Heading hand = rules.Hand(*heading);
     const Heading far = Opposite(hand);
     const auto handIsFree = [&] { return Area(Near(mine, Ahead(hand))) == Kind::Empty; };
 

@@ -13,27 +13,16 @@ Bitmap& Place(Pictures& pictures, Picture picture) {
     return pictures[static_cast<std::size_t>(picture)];
 }
 
-/// The hand side of an L mine by heading: a quarter turn to the left, as seen on the screen.
-constexpr Offset LeftHand(Heading heading) {
-    const Offset ahead = Ahead(heading);
-    return {ahead.Row, -ahead.Col};
-}
-
-constexpr Offset RightHand(Heading heading) {
-    const Offset left = LeftHand(heading);
-    return {-left.Col, -left.Row};
-}
-
 struct Store {
     StarMine Kind;
     Picture Template;
     Picture Up;
-    Offset (*Hand)(Heading); ///< none for a kind whose heading doesn't show
+    Heading (*Hand)(Heading); ///< where the spike points; none for a kind without one
 };
 
 constexpr std::array<Store, 5> Stores{{
-    {StarMine::L, Picture::MovingMineL, Picture::MovingMineLUpPic, LeftHand},
-    {StarMine::R, Picture::MovingMineR, Picture::MovingMineRUpPic, RightHand},
+    {StarMine::L, Picture::MovingMineL, Picture::MovingMineLUpPic, LeftOf},
+    {StarMine::R, Picture::MovingMineR, Picture::MovingMineRUpPic, RightOf},
     {StarMine::FL, Picture::MovingMineFL, Picture::MovingMineFLUpPic, nullptr},
     {StarMine::P, Picture::MovingMineP, Picture::MovingMinePUpPic, nullptr},
     {StarMine::PP, Picture::MovingMinePP, Picture::MovingMinePPUpPic, nullptr},
@@ -44,7 +33,7 @@ void DrawStores(Pictures& pictures) {
         Place(pictures, bare) = DrawStar(kind);
         for (const Heading heading : {Heading::Up, Heading::Down, Heading::Left, Heading::Right}) {
             Place(pictures, HeadingPicture(up, heading)) =
-                hand ? DrawSpikedStar(kind, hand(heading)) : DrawStar(kind);
+                hand ? DrawSpikedStar(kind, Ahead(hand(heading))) : DrawStar(kind);
         }
     }
 }

@@ -6,7 +6,6 @@
 #include "platform/FieldInput.h"
 #include "platform/Window.h"
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>

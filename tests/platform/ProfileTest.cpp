@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
 namespace tumbledeep {
 
 TEST(Profile, ValuesAreFoundWithoutRegardToCase) {

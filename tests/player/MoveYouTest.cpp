@@ -1,8 +1,6 @@
 // Steps, pushes and pauses, and whether the player is ready for the next key.
 #include "support/Scenario.h"
 
-#include <algorithm>
-
 namespace tumbledeep {
 
 namespace {

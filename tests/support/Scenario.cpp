@@ -1,7 +1,6 @@
 // Boards are made by the loader itself, from a map that is written here.
 #include "support/Scenario.h"
 
-#include <algorithm>
 #include <map>
 #include <sstream>
 

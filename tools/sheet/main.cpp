@@ -6,7 +6,6 @@
 #include <iostream>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <system_error>

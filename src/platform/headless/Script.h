@@ -1,7 +1,6 @@
 // A script that stands in for the player's hands: answers to dialogs, and events by step.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <optional>

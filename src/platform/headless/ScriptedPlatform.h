@@ -6,7 +6,6 @@
 #include "platform/headless/Script.h"
 
 #include <array>
-#include <functional>
 #include <ostream>
 #include <string>
 
