@@ -1,7 +1,7 @@
 // Sizes of images, and the PNG file.
 #include "Image.h"
 
-#include "shell/Catalogue.h"
+#include "pictures/Catalogue.h"
 
 #include <algorithm>
 #include <array>

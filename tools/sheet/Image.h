@@ -1,7 +1,7 @@
 // A picture of any size with transparency, and its way into a PNG file.
 #pragma once
 
-#include "platform/Bitmap.h"
+#include "pictures/Bitmap.h"
 
 #include <cstddef>
 #include <cstdint>

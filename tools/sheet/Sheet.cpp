@@ -1,7 +1,7 @@
 // Places each picture in a frame of its own.
 #include "Sheet.h"
 
-#include "shell/Catalogue.h"
+#include "pictures/Catalogue.h"
 
 #include <algorithm>
 #include <vector>
@@ -32,33 +32,32 @@ Row PoolRow(Picture pool, int count) {
     return row;
 }
 
-/// The stores of the headings, and the template at the end.
-Row MineRow(Picture up, Picture bare) {
-    Row row = PoolRow(up, 4);
-    row.push_back(Of(bare));
-    return row;
-}
-
 template <Shape Which> Drawing Of() {
     return {&ShapeBitmap(Which), [](int x, int y) { return ShapeCovers(Which, x, y); }};
 }
 
 std::vector<Row> Rows() {
-    return {
-        {Of<Shape::You>(),
-         Of<Shape::Dirt>(),
-         Of<Shape::HardDirt>(),
-         {&StatusDisc(), StatusDiscCovers},
-         {&AppIcon(), AppIconCovers}},
-        MineRow(Picture::MovingMineLUpPic, Picture::MovingMineL),
-        MineRow(Picture::MovingMineRUpPic, Picture::MovingMineR),
-        MineRow(Picture::MovingMineFLUpPic, Picture::MovingMineFL),
-        MineRow(Picture::MovingMinePUpPic, Picture::MovingMineP),
-        MineRow(Picture::MovingMinePPUpPic, Picture::MovingMinePP),
-        {Of(Picture::MovingMineT), Of(Picture::Factory), Of(Picture::Bang)},
-        PoolRow(Picture::GemTypePic, GemTypePicCount),
-        PoolRow(Picture::RoundRockPic, RoundRockPicCount),
-    };
+    std::vector<Row> rows{{Of<Shape::You>(),
+                           Of<Shape::Dirt>(),
+                           Of<Shape::HardDirt>(),
+                           {&StatusDisc(), StatusDiscCovers},
+                           {&AppIcon(), AppIconCovers}}};
+    Row single;
+    std::vector<Row> members;
+    for (const KindRow& row : PoolKinds()) {
+        if (row.UpPic != Picture::None) {
+            // The stores of the headings, and the template at the end.
+            rows.push_back(PoolRow(row.UpPic, 4));
+            rows.back().push_back(Of(row.Template));
+        } else if (row.PictureMembers > 0) {
+            members.push_back(PoolRow(row.Template, row.PictureMembers));
+        } else if (!row.IsShape) {
+            single.push_back(Of(row.Template));
+        }
+    }
+    rows.push_back(single);
+    rows.insert(rows.end(), members.begin(), members.end());
+    return rows;
 }
 
 void DrawFrames(Image& sheet) {

@@ -1,0 +1,43 @@
+// Single precision and 16-bit arithmetic, the same on every processor.
+#pragma once
+
+#include <algorithm>
+#include <cfloat>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+namespace tumbledeep {
+
+// Results must not depend on how a compiler likes to reckon: no wider intermediate results, no
+// algebra that only holds for real numbers. Contraction is switched off by -ffp-contract=off.
+static_assert(FLT_EVAL_METHOD == 0, "float must be reckoned as float");
+static_assert(std::numeric_limits<float>::is_iec559);
+#ifdef __FAST_MATH__
+#error "the rules of the game need exact single precision: build without -ffast-math"
+#endif
+
+/// The nearest whole number, a tie going to the even one. Adding and taking off a number whose
+/// last bit weighs 1 lets the processor round; from 2^22 on single precision needs none here.
+constexpr float RoundToEven(float value) {
+    constexpr float limit = 0x1p22F;
+    constexpr float lastBitOne = 0x1.8p23F;
+    return value > -limit && value < limit ? (value + lastBitOne) - lastBitOne : value;
+}
+
+/// A counter of 16 bits: what does not fit is cut off as the game's counters cut it.
+constexpr std::int16_t To16(int value) { return static_cast<std::int16_t>(value); }
+
+/// One more, but never past the largest number of 16 bits.
+constexpr void CountUp(std::int16_t& counter) {
+    if (counter < std::numeric_limits<std::int16_t>::max()) ++counter;
+}
+
+/// The nearest whole number that 16 bits can hold, a tie going to the even one.
+inline std::int16_t NearestTo16(double value) {
+    return static_cast<std::int16_t>(
+        std::nearbyint(std::clamp<double>(value, std::numeric_limits<std::int16_t>::min(),
+                                          std::numeric_limits<std::int16_t>::max())));
+}
+
+} // namespace tumbledeep

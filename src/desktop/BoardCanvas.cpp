@@ -1,0 +1,220 @@
+// All painting is in whole device pixels, whatever the screen's scale: the board is one picture
+// here and no widget of its own, so that nothing between two cells can open or blur.
+#include "desktop/BoardCanvas.h"
+
+#include "pictures/Catalogue.h"
+
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace tumbledeep {
+
+namespace {
+
+constexpr QRgb ParentBackground = 0xFF808080;
+/// With more changes than this, one repaint of their bounds is cheaper than many small ones.
+constexpr std::size_t ManyChanges = 256;
+
+std::optional<Heading> ArrowOf(int key) {
+    switch (key) {
+    case Qt::Key_Left: return Heading::Left;
+    case Qt::Key_Up: return Heading::Up;
+    case Qt::Key_Right: return Heading::Right;
+    case Qt::Key_Down: return Heading::Down;
+    default: return std::nullopt;
+    }
+}
+
+} // namespace
+
+BoardCanvas::BoardCanvas(frmMain& main, std::optional<int> scale) : game(main), fixedScale(scale) {
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_InputMethodEnabled);
+    images.SetScale(Scale());
+}
+
+int BoardCanvas::Scale() const {
+    return fixedScale ? *fixedScale : std::max(1, qRound(devicePixelRatioF()));
+}
+
+QRect BoardCanvas::DeviceRect() const {
+    const qreal ratio = devicePixelRatioF();
+    return {0, 0, static_cast<int>(std::ceil(width() * ratio)),
+            static_cast<int>(std::ceil(height() * ratio))};
+}
+
+QPointF BoardCanvas::ToDevicePoint(const QPointF& logical) const {
+    return logical * devicePixelRatioF();
+}
+
+void BoardCanvas::Sync() {
+    const int scale = Scale();
+    images.SetScale(scale);
+    const frmDocument& board = game.ActiveChild;
+    const QRect boardRect = board.Form.Visible ? BoardRect(board, scale) : QRect();
+    const QRect visible = DeviceRect().translated(-boardRect.topLeft());
+    const auto changes = look.Changes(board, scale, visible);
+    const QRect before = shownBoard;
+    const bool rescaled = scale != shownScale;
+    shownBoard = boardRect;
+    shownScale = scale;
+    if (rescaled || boardRect.size() != before.size()) return update();
+
+    const QPoint moved = boardRect.topLeft() - before.topLeft();
+    const auto ratio = static_cast<int>(devicePixelRatioF());
+    const bool wholeRatio = devicePixelRatioF() == ratio;
+    if (!moved.isNull()) {
+        if (!wholeRatio || moved.x() % ratio != 0 || moved.y() % ratio != 0) return update();
+        scroll(moved.x() / ratio, moved.y() / ratio);
+    }
+    if (changes.size() > ManyChanges) {
+        QRect bounds;
+        for (const QRect& change : changes) bounds |= change;
+        return UpdateDevice(bounds.translated(boardRect.topLeft()));
+    }
+    for (const QRect& change : changes) UpdateDevice(change.translated(boardRect.topLeft()));
+}
+
+/// At broken ratios a logical pixel covers parts of device pixels, so one more is taken all round.
+void BoardCanvas::UpdateDevice(const QRect& device) {
+    const qreal ratio = devicePixelRatioF();
+    const QRect logical = QRectF(device.x() / ratio, device.y() / ratio, device.width() / ratio,
+                                 device.height() / ratio)
+                              .toAlignedRect();
+    update(ratio == std::floor(ratio) ? logical : logical.adjusted(-1, -1, 1, 1));
+}
+
+void BoardCanvas::paintEvent(QPaintEvent* event) {
+    // A window that has moved to another screen is painted before anything else happens.
+    images.SetScale(Scale());
+    QPainter painter(this);
+    // Undo the scaling and a broken offset of the widget: one unit becomes one device pixel.
+    const QTransform device = painter.deviceTransform();
+    QTransform wholePixels;
+    wholePixels.translate(std::round(device.dx()), std::round(device.dy()));
+    painter.setWorldTransform(wholePixels * device.inverted());
+
+    const qreal ratio = devicePixelRatioF();
+    const QRect boardRect =
+        game.ActiveChild.Form.Visible ? BoardRect(game.ActiveChild, Scale()) : QRect();
+    for (const QRect& exposed : event->region()) {
+        const QRect part = QRectF(exposed.x() * ratio, exposed.y() * ratio, exposed.width() * ratio,
+                                  exposed.height() * ratio)
+                               .toAlignedRect()
+                               .adjusted(-1, -1, 1, 1);
+        for (const QRect& outside : QRegion(part) - boardRect) {
+            painter.fillRect(outside, QColor::fromRgb(ParentBackground));
+        }
+        PaintBoard(painter, part & boardRect, boardRect);
+    }
+    if (!std::exchange(cameUp, true)) CameUp();
+    if (game.ActiveChild.Form.Visible && !std::exchange(boardPainted, true)) BoardPainted();
+}
+
+void BoardCanvas::PaintBoard(QPainter& painter, const QRect& part, const QRect& boardRect) const {
+    if (part.isEmpty()) return;
+    const int scale = Scale();
+    const frmDocument& board = game.ActiveChild;
+    painter.setClipRect(part);
+    painter.fillRect(part, Qt::white);
+    const auto paint = [&](float left, float top, const QImage& image) {
+        const QRect rect = SpriteRect(left, top, scale).translated(boardRect.topLeft());
+        if (rect.intersects(part)) painter.drawImage(rect.topLeft(), image);
+    };
+    bool youPainted = false;
+    for (const Kind kind : PaintOrder()) {
+        const bool isShape = RowOf(kind).IsShape;
+        if (!isShape && !std::exchange(youPainted, true)) {
+            paint(board.You.Left, board.You.Top, images.You);
+        }
+        for (const Sprite& sprite : board.Pools[kind]) {
+            if (!sprite.Visible) continue;
+            paint(sprite.Left, sprite.Top, isShape ? images.Of(kind) : images.Of(sprite.Look));
+        }
+    }
+    painter.setClipping(false);
+}
+
+bool BoardCanvas::OnSurface(const QPointF& device) const {
+    const frmDocument& board = game.ActiveChild;
+    const QRect boardRect = BoardRect(board, Scale());
+    const QPoint point = QPoint(static_cast<int>(device.x()), static_cast<int>(device.y()));
+    if (!board.Form.Visible || !boardRect.contains(point)) return false;
+    const QPoint onBoard = point - boardRect.topLeft();
+    for (const KindRow& row : PoolKinds()) {
+        if (row.IsShape) continue;
+        const Pool& pool = board.Pools[row.Which];
+        const bool covered = std::any_of(pool.begin(), pool.end(), [&](const Sprite& sprite) {
+            return sprite.Visible && SpriteRect(sprite.Left, sprite.Top, Scale()).contains(onBoard);
+        });
+        if (covered) return false;
+    }
+    return true;
+}
+
+void BoardCanvas::keyPressEvent(QKeyEvent* event) {
+    if (const auto key = ArrowOf(event->key())) return ArrowKey(*key, true);
+    if (event->modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier)) {
+        return QWidget::keyPressEvent(event);
+    }
+    Type(event->text());
+}
+
+void BoardCanvas::keyReleaseEvent(QKeyEvent* event) {
+    const auto key = ArrowOf(event->key());
+    if (!key) return QWidget::keyReleaseEvent(event);
+    // A key that repeats reports releases that no finger made.
+    if (!event->isAutoRepeat()) ArrowKey(*key, false);
+}
+
+void BoardCanvas::inputMethodEvent(QInputMethodEvent* event) {
+    Type(event->commitString());
+    event->accept();
+}
+
+void BoardCanvas::Type(const QString& text) {
+    for (const QChar& character : text) {
+        if (character.isPrint()) Typed(QString(character).toStdString());
+    }
+}
+
+void BoardCanvas::focusOutEvent(QFocusEvent* event) {
+    KeysLost();
+    QWidget::focusOutEvent(event);
+}
+
+void BoardCanvas::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    const QPointF device = ToDevicePoint(event->position());
+    pressedOnBoard = OnSurface(device);
+    lastMouse = device;
+    if (pressedOnBoard) BoardPressed();
+}
+
+void BoardCanvas::mouseMoveEvent(QMouseEvent* event) {
+    if (!pressedOnBoard || !(event->buttons() & Qt::LeftButton)) return;
+    if (!dragging) BoardMouseMoved();
+    if (!dragging) return;
+    const QPointF device = ToDevicePoint(event->position());
+    const QPointF moved = (device - lastMouse) / Scale();
+    lastMouse = device;
+    BoardDragged(static_cast<float>(moved.x()) * TwipsPerPixel,
+                 static_cast<float>(moved.y()) * TwipsPerPixel);
+}
+
+void BoardCanvas::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    dragging = false;
+    pressedOnBoard = false;
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,72 @@
+// The parent's client area with the board in it: painting, keys and the mouse.
+#pragma once
+
+#include "desktop/BoardLook.h"
+#include "desktop/SpriteImages.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <optional>
+
+namespace tumbledeep {
+
+class BoardCanvas final : public QWidget {
+  public:
+    /// `fixedScale` overrides the scale that the screen suggests.
+    BoardCanvas(frmMain& game, std::optional<int> fixedScale);
+
+    /// What the player does, told to the window. A typed text is one character.
+    std::function<void(const std::string& text)> Typed;
+    std::function<void(Heading key, bool down)> ArrowKey;
+    std::function<void()> KeysLost;
+    /// The left button went down on the board's own surface, and the mouse moves with it held.
+    std::function<void()> BoardPressed;
+    std::function<void()> BoardMouseMoved;
+    /// The mouse moves the board, by so many twips.
+    std::function<void(float x, float y)> BoardDragged;
+    /// The canvas is on the screen for the first time.
+    std::function<void()> CameUp;
+    /// The board has been painted for the first time.
+    std::function<void()> BoardPainted;
+
+    /// Repaints what has changed since the last call.
+    void Sync();
+    /// From here on the board follows the mouse, until the button is released.
+    void BeginDrag() { dragging = true; }
+    /// Whole device pixels to a pixel of the game.
+    int Scale() const;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+  private:
+    void Type(const QString& text);
+    void UpdateDevice(const QRect& device);
+    QRect DeviceRect() const;
+    QPointF ToDevicePoint(const QPointF& logical) const;
+    /// True if the point, in device pixels, is on the board's own surface and on no picture.
+    bool OnSurface(const QPointF& device) const;
+    void PaintBoard(QPainter& painter, const QRect& part, const QRect& boardRect) const;
+
+    frmMain& game;
+    std::optional<int> fixedScale;
+    SpriteImages images;
+    BoardLook look;
+    QRect shownBoard;
+    int shownScale = 0;
+    bool pressedOnBoard = false;
+    bool dragging = false;
+    bool cameUp = false;
+    bool boardPainted = false;
+    QPointF lastMouse;
+};
+
+} // namespace tumbledeep

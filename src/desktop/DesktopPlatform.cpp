@@ -1,0 +1,129 @@
+// Dialogs are Qt's own, which take the desktop's look where it offers one.
+#include "desktop/DesktopPlatform.h"
+
+#include "formats/ProgramPath.h"
+#include "host/HostFiles.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+
+#include <chrono>
+
+namespace tumbledeep {
+
+namespace {
+
+constexpr const char* Title = "Tumbledeep";
+constexpr std::chrono::milliseconds LongestGap{1000};
+
+/// The filter as Qt writes it: "label (pattern pattern)". Small letters are added to each pattern,
+/// for dialogs that tell them apart.
+QString QtFilter(const std::string& filter) {
+    const QString text = QString::fromStdString(filter);
+    const QString label = text.section('|', 0, 0).section(" (", 0, 0);
+    QStringList patterns = text.section('|', 1).split(';');
+    for (const QString& pattern : QStringList(patterns)) patterns << pattern.toLower();
+    return label + " (" + patterns.join(' ') + ")";
+}
+
+} // namespace
+
+DesktopPlatform::DesktopPlatform(const Options& given)
+    : options(given),
+      directory(given.Directory
+                    ? *given.Directory
+                    : std::filesystem::path(QCoreApplication::applicationDirPath().toStdString())) {
+}
+
+void DesktopPlatform::Quit() {
+    quitting = true;
+    QCoreApplication::exit(0);
+}
+
+void DesktopPlatform::AwaitSuccessor() { successor.AwaitShown(LongestGap); }
+
+template <class Dialog> int DesktopPlatform::Show(Dialog& dialog) {
+    BeforeDialog();
+    const int result = quitting ? 0 : dialog.exec();
+    AfterDialog();
+    if (quitting) End();
+    return result;
+}
+
+int DesktopPlatform::MsgBox(const std::string& text, int style) {
+    QMessageBox box(DialogParent);
+    box.setWindowTitle(Title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString::fromStdString(text));
+    const bool asks = style == MsgBoxStyle::Question || style == MsgBoxStyle::Exclamation;
+    box.setIcon(style == MsgBoxStyle::Stop          ? QMessageBox::Critical
+                : style == MsgBoxStyle::Question    ? QMessageBox::Question
+                : style == MsgBoxStyle::Exclamation ? QMessageBox::Warning
+                                                    : QMessageBox::NoIcon);
+    box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No
+                                : QMessageBox::StandardButtons(QMessageBox::Ok));
+    box.setDefaultButton(asks ? QMessageBox::Yes : QMessageBox::Ok);
+    const int button = Show(box);
+    if (!asks) return MsgBoxAnswer::Ok;
+    return button == QMessageBox::Yes ? MsgBoxAnswer::Yes : MsgBoxAnswer::No;
+}
+
+std::string DesktopPlatform::InputBox(const std::string& prompt) {
+    QInputDialog dialog(DialogParent);
+    dialog.setWindowTitle(Title);
+    dialog.setLabelText(QString::fromStdString(prompt));
+    return Show(dialog) == QDialog::Accepted ? dialog.textValue().toStdString() : "";
+}
+
+std::string DesktopPlatform::ShowOpen(const OpenDialog& dialog) {
+    QFileDialog open(DialogParent, QString::fromStdString(dialog.Title),
+                     QString::fromStdString(HostPath(dialog.InitDir).string()),
+                     QtFilter(dialog.Filter));
+    open.setFileMode(QFileDialog::ExistingFile);
+    if (Show(open) != QDialog::Accepted || open.selectedFiles().isEmpty()) return "";
+    std::string chosen = ProgramPath(open.selectedFiles().constFirst().toStdString());
+    // The dialog offers both cases, the game knows a list by capitals alone; files are found in
+    // any.
+    if (chosen.ends_with(".tbl")) chosen = WithoutExtension(chosen) + ".TBL";
+    return chosen;
+}
+
+void DesktopPlatform::Shell(const std::string& commandLine) {
+    // The program always starts itself; what stands behind its name is the game's argument.
+    const std::string name = AppPath() + "\\tumbledeep";
+    std::vector<std::string> words = options.ForSuccessor();
+    if (commandLine.size() > name.size() + 1) {
+        words.push_back(commandLine.substr(name.size() + 1));
+    }
+    if (!successor.Start(QCoreApplication::applicationFilePath().toStdString(), words)) {
+        MsgBox("The program can't be started again.", MsgBoxStyle::Stop);
+    }
+}
+
+std::string DesktopPlatform::AppPath() const { return ProgramPath(directory); }
+
+std::string DesktopPlatform::Command() const { return CommandText(options.Argument, directory); }
+
+std::uint32_t DesktopPlatform::Seed() {
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return static_cast<std::uint32_t>(
+        std::chrono::duration_cast<std::chrono::milliseconds>(now).count());
+}
+
+std::string DesktopPlatform::OpenForInput(const std::string& path) {
+    return ReadFile(FindFile(HostPath(path)));
+}
+
+std::string DesktopPlatform::GetPrivateProfileString(std::string_view section, std::string_view key,
+                                                     const std::string& path) {
+    return ReadProfile(section, key, path);
+}
+
+void DesktopPlatform::WritePrivateProfileString(std::string_view section, std::string_view key,
+                                                std::string_view value, const std::string& path) {
+    WriteProfile(section, key, value, path);
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,64 @@
+// The system with a window: dialogs, keys and processes of the desktop.
+#pragma once
+
+#include "desktop/Options.h"
+#include "desktop/Successor.h"
+#include "host/Platform.h"
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+class QWidget;
+
+namespace tumbledeep {
+
+class DesktopPlatform final : public Platform {
+  public:
+    explicit DesktopPlatform(const Options& options);
+
+    /// Where maps, lists and settings lie.
+    const std::filesystem::path& Directory() const { return directory; }
+
+    /// The window that dialogs belong to, and what is done just before and after one is shown. Set
+    /// before the game starts.
+    QWidget* DialogParent = nullptr;
+    std::function<void()> BeforeDialog;
+    std::function<void()> AfterDialog;
+    /// Begins to move the board with the mouse.
+    std::function<void()> BeginDrag;
+
+    /// The desktop wants the program to end: a dialog that is open returns no answer, the process
+    /// ends instead.
+    void Quit();
+    /// Waits until the process that was started, if any, is on the screen.
+    void AwaitSuccessor();
+
+    int MsgBox(const std::string& text, int style) override;
+    std::string InputBox(const std::string& prompt) override;
+    std::string ShowOpen(const OpenDialog& dialog) override;
+    void DragBoard() override { BeginDrag(); }
+    void Shell(const std::string& commandLine) override;
+    std::string AppPath() const override;
+    std::string Command() const override;
+    std::uint32_t Seed() override;
+    std::string OpenForInput(const std::string& path) override;
+    std::string GetPrivateProfileString(std::string_view section, std::string_view key,
+                                        const std::string& path) override;
+    void WritePrivateProfileString(std::string_view section, std::string_view key,
+                                   std::string_view value, const std::string& path) override;
+
+  protected:
+    void Ending() override {}
+
+  private:
+    /// Runs a dialog with the clock held round it.
+    template <class Dialog> int Show(Dialog& dialog);
+
+    Options options;
+    std::filesystem::path directory;
+    Successor successor;
+    bool quitting = false;
+};
+
+} // namespace tumbledeep

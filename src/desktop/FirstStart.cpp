@@ -1,0 +1,24 @@
+// Only settings are written; the game's own start-up does the rest.
+#include "desktop/FirstStart.h"
+
+#include "base/Failure.h"
+#include "formats/MapList.h"
+#include "host/HostFiles.h"
+
+namespace tumbledeep {
+
+void PrepareFirstStart(const std::filesystem::path& directory) {
+    const std::filesystem::path ini = directory / "Tumbledeep.ini";
+    std::error_code error;
+    if (std::filesystem::exists(FindFile(ini), error)) return;
+    try {
+        const auto list = ReadMapList(ReadFile(FindFile(directory / "Default.TBL")));
+        if (list.empty()) return;
+        WriteProfile("Level", "LOAD", list.front().Text + ".TBM", ProgramPath(ini));
+        WriteProfile("Level", "MAPLIST", "Default", ProgramPath(ini));
+    } catch (const Failure&) {
+        // No list lies there: the game asks for a map.
+    }
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,214 @@
+// The clock is held here while a dialog is open, and nowhere else.
+#include "desktop/GameWindow.h"
+
+#include "desktop/SpriteImages.h"
+#include "pictures/Catalogue.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QWindow>
+
+#include <array>
+
+namespace tumbledeep {
+
+namespace {
+
+using Do = PlayerAct::Do;
+
+constexpr int StatusPictureSize = 14;
+/// In milliseconds; without a window manager the focus never comes.
+constexpr int FocusPatience = 500;
+
+} // namespace
+
+GameWindow::GameWindow(frmMain& main, DesktopPlatform& services, const Options& options)
+    : game(main),
+      platform(services),
+      canvas(new BoardCanvas(main, options.Scale)),
+      shownPipe(options.ShownPipe.value_or(-1)) {
+    setCentralWidget(canvas);
+    BuildMenu();
+    BuildStatusBar();
+    ConnectCanvas();
+    ConnectDialogs();
+    canvas->setFocus();
+
+    timer.setTimerType(Qt::PreciseTimer);
+    timer.setInterval(game.ActiveChild.Interval100Timer.Interval);
+    connect(&timer, &QTimer::timeout, this, [this] {
+        if (openDialogs == 0) Deliver([this] { game.TimerPeriod(); });
+    });
+    // The application's state, not the window's: between the two windows of a dialog nobody leaves.
+    connect(qApp, &QGuiApplication::applicationStateChanged, this,
+            [this](Qt::ApplicationState now) {
+                if (!started) return;
+                Act({now == Qt::ApplicationActive ? Do::GotFocus : Do::LostFocus});
+            });
+    Sync();
+}
+
+/// A dialog that is open or about to be must take no answer from this.
+void GameWindow::closeEvent(QCloseEvent* event) {
+    platform.Quit();
+    event->accept();
+}
+
+void GameWindow::StartGame() {
+    started = true;
+    Deliver([this] { game.MDIForm_Activate(); });
+}
+
+void GameWindow::Deliver(const std::function<void()>& event) {
+    if (ended) return;
+    TakeOuterSize();
+    try {
+        event();
+    } catch (const ProgramEnd&) {
+        ended = true;
+        timer.stop();
+        platform.AwaitSuccessor();
+        QCoreApplication::exit(0);
+        return;
+    }
+    Sync();
+}
+
+void GameWindow::Act(const PlayerAct& act) {
+    Deliver([this, &act] { game.Take(act); });
+}
+
+void GameWindow::TakeOuterSize() {
+    const qreal ratio = devicePixelRatioF() / canvas->Scale() * TwipsPerPixel;
+    PlayerAct resize{Do::Resize};
+    resize.X = static_cast<float>(frameGeometry().width() * ratio);
+    resize.Y = static_cast<float>(frameGeometry().height() * ratio);
+    if (resize.X != game.Form.Width || resize.Y != game.Form.Height) game.Take(resize);
+}
+
+void GameWindow::Sync() {
+    if (game.Form.Caption != shownCaption) {
+        shownCaption = game.Form.Caption;
+        setWindowTitle(QString::fromStdString(shownCaption));
+    }
+    if (game.Info.Panel != shownStatus) {
+        shownStatus = game.Info.Panel;
+        panel->setText(QString::fromStdString(shownStatus));
+    }
+    for (std::size_t i = 0; i < actions.size(); ++i) {
+        const bool checked = game.Menu[i].Checked;
+        if (actions[i] == nullptr || actions[i]->isChecked() == checked) continue;
+        // Only an entry that has ever had a check mark keeps room for one.
+        actions[i]->setCheckable(true);
+        actions[i]->setChecked(checked);
+    }
+    const bool runs = started && openDialogs == 0 && game.ActiveChild.Interval100Timer.Enabled;
+    if (runs && !timer.isActive()) timer.start();
+    if (!runs) timer.stop();
+    canvas->Sync();
+}
+
+void GameWindow::BuildMenu() {
+    std::array<QMenu*, 4> open{};
+    for (const MenuEntry& entry : game.Menu) {
+        const auto level = static_cast<std::size_t>(entry.Level);
+        QAction* action = nullptr;
+        if (entry.Submenu) {
+            open[level] = level == 1 ? menuBar()->addMenu(entry.Caption)
+                                     : open[level - 1]->addMenu(entry.Caption);
+        } else {
+            action = open[level - 1]->addAction(entry.Caption);
+            connect(action, &QAction::triggered, this, [this, name = std::string(entry.Name)] {
+                Act({Do::Menu, name});
+            });
+        }
+        actions.push_back(action);
+    }
+}
+
+void GameWindow::BuildStatusBar() {
+    auto* const disc = new QLabel;
+    const QImage image = ImageOf(StatusDisc(), 4, StatusDiscCovers);
+    QPixmap pixmap = QPixmap::fromImage(
+        image.scaled(QSize(StatusPictureSize, StatusPictureSize) * devicePixelRatioF(),
+                     Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    pixmap.setDevicePixelRatio(devicePixelRatioF());
+    disc->setPixmap(pixmap);
+    disc->setContentsMargins(6, 0, 2, 0);
+    panel = new QLabel;
+    panel->setTextFormat(Qt::PlainText);
+    statusBar()->addWidget(disc);
+    statusBar()->addWidget(panel);
+}
+
+void GameWindow::ConnectCanvas() {
+    canvas->Typed = [this](const std::string& text) {
+        if (started) Act({Do::Type, text});
+    };
+    canvas->ArrowKey = [this](Heading key, bool down) {
+        Act({down ? Do::Press : Do::Release, "", key});
+    };
+    canvas->KeysLost = [this] {
+        for (const Heading key : Headings) {
+            if (game.ActiveChild.ArrowKeys.Holds(key)) Act({Do::Release, "", key});
+        }
+    };
+    canvas->BoardPressed = [this] { Act({Do::Click}); };
+    canvas->BoardMouseMoved = [this] { Deliver([this] { game.ActiveChild.Form_MouseMove(1); }); };
+    canvas->BoardDragged = [this](float x, float y) {
+        PlayerAct drag{Do::Drag};
+        drag.X = x;
+        drag.Y = y;
+        Act(drag);
+    };
+    // The first exposure stands for the first activation: a window manager grants the focus some
+    // time later, or never. Queued, as a game that starts may open dialogs.
+    canvas->CameUp = [this] {
+        QMetaObject::invokeMethod(
+            this, [this] { StartGame(); }, Qt::QueuedConnection);
+    };
+    canvas->BoardPainted = [this] {
+        QMetaObject::invokeMethod(
+            this, [this] { TellShown(); }, Qt::QueuedConnection);
+    };
+    platform.BeginDrag = [this] { canvas->BeginDrag(); };
+}
+
+void GameWindow::ConnectDialogs() {
+    platform.DialogParent = this;
+    platform.BeforeDialog = [this] {
+        ++openDialogs;
+        Sync();
+        TellShown();
+        AwaitFocus();
+    };
+    platform.AfterDialog = [this] {
+        --openDialogs;
+        TakeOuterSize();
+    };
+}
+
+/// A dialog that comes up before its parent has ever had the focus may never be given it.
+void GameWindow::AwaitFocus() {
+    if (hadFocus || QGuiApplication::focusWindow() != nullptr) {
+        hadFocus = true;
+        return;
+    }
+    QEventLoop loop;
+    connect(qApp, &QGuiApplication::focusWindowChanged, &loop, &QEventLoop::quit);
+    QTimer::singleShot(FocusPatience, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    hadFocus = true;
+}
+
+void GameWindow::TellShown() {
+    if (shownPipe >= 0) Successor::TellShown(shownPipe);
+    shownPipe = -1;
+}
+
+} // namespace tumbledeep

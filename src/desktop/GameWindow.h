@@ -1,0 +1,60 @@
+// The parent window on the screen. It owns the loop's side of the game: every event is delivered
+// here, and afterwards the screen is made to agree with the game's data.
+#pragma once
+
+#include "desktop/BoardCanvas.h"
+#include "desktop/DesktopPlatform.h"
+#include "windows/frmMain.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class QAction;
+class QLabel;
+
+namespace tumbledeep {
+
+class GameWindow final : public QMainWindow {
+  public:
+    /// The game starts by itself when the window has come up.
+    GameWindow(frmMain& game, DesktopPlatform& platform, const Options& options);
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void StartGame();
+    /// Lets the game take an event, to its end, and shows what it has changed. The end of the
+    /// program, which the game throws, stops here.
+    void Deliver(const std::function<void()>& event);
+    /// The same for one thing that the player does.
+    void Act(const PlayerAct& act);
+    void Sync();
+    void TakeOuterSize();
+    void BuildMenu();
+    void BuildStatusBar();
+    void ConnectCanvas();
+    void ConnectDialogs();
+    void AwaitFocus();
+    void TellShown();
+
+    frmMain& game;
+    DesktopPlatform& platform;
+    BoardCanvas* canvas;
+    QLabel* panel = nullptr;
+    std::vector<QAction*> actions; ///< by index in the game's menu, nullptr for a submenu
+    std::string shownCaption;
+    std::string shownStatus;
+    QTimer timer;
+    int openDialogs = 0;
+    int shownPipe; ///< where a predecessor waits to be told that this window is up; then -1
+    bool started = false;
+    bool ended = false;
+    bool hadFocus = false;
+};
+
+} // namespace tumbledeep

@@ -1,0 +1,101 @@
+// Neither toolkit nor screen is needed here, so that --help works without both.
+#include "desktop/Options.h"
+
+#include "formats/ProgramPath.h"
+#include "host/HostFiles.h"
+
+#include <algorithm>
+#include <charconv>
+#include <stdexcept>
+#include <string_view>
+
+namespace tumbledeep {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+int WholeFrom(std::string_view option, std::string_view text, int least, int most) {
+    int value = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (read.ec != std::errc() || read.ptr != text.data() + text.size() || value < least ||
+        value > most) {
+        throw std::runtime_error(std::string(option) + " needs a whole number from " +
+                                 std::to_string(least) + " to " + std::to_string(most));
+    }
+    return value;
+}
+
+} // namespace
+
+std::vector<std::string> Options::ForSuccessor() const {
+    std::vector<std::string> words;
+    if (Directory) words.insert(words.end(), {"--dir", Directory->string()});
+    if (Scale) words.insert(words.end(), {"--scale", std::to_string(*Scale)});
+    return words;
+}
+
+Options ReadOptions(std::span<char* const> words) {
+    Options options;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const std::string_view word = words[i];
+        const auto value = [&]() -> std::string_view {
+            if (i + 1 == words.size())
+                throw std::runtime_error(std::string(word) + " needs a value");
+            return words[++i];
+        };
+        if (word == "--help") {
+            options.Help = true;
+        } else if (word == "--version") {
+            options.Version = true;
+        } else if (word == "--dir") {
+            options.Directory = fs::absolute(value()).lexically_normal();
+            std::error_code error;
+            if (!fs::is_directory(*options.Directory, error)) {
+                throw std::runtime_error(options.Directory->string() +
+                                         ": there is no such directory");
+            }
+        } else if (word == "--scale") {
+            options.Scale = WholeFrom(word, value(), 1, 16);
+        } else if (word == "--shown-pipe") {
+            options.ShownPipe = WholeFrom(word, value(), 0, 1 << 20);
+        } else if (word.starts_with("--")) {
+            throw std::runtime_error("unknown option " + std::string(word) + "; see --help");
+        } else {
+            if (!options.Argument.empty()) options.Argument += ' ';
+            options.Argument += word;
+        }
+    }
+    return options;
+}
+
+const char* UsageText() {
+    return "usage: tumbledeep [--dir DIR] [--scale N] [MAP | LIST]\n"
+           "\n"
+           "  MAP         a map to play, such as \"First steps.TBM\"\n"
+           "  LIST        a map list whose first map is played, such as Default.TBL\n"
+           "  --dir DIR   where maps, lists and Tumbledeep.ini lie (default: beside the program)\n"
+           "  --scale N   device pixels to a pixel of the game, 1 to 16 (default: by the screen)\n"
+           "  --help      this text\n"
+           "  --version   the program's version\n"
+           "\n"
+           "Keys: w a s d or the arrow keys to walk, dig and push, p to pause.\n";
+}
+
+std::string CommandText(const std::string& argument, const fs::path& directory) {
+    const bool quoted = argument.size() >= 2 && argument.front() == '"' && argument.back() == '"';
+    const std::string name = quoted ? argument.substr(1, argument.size() - 2) : argument;
+    if (name.empty() || HasDrive(name)) return argument;
+
+    const fs::path host = HostPath(name);
+    std::error_code error;
+    if (host.is_absolute()) return ProgramPath(host);
+    if (!fs::exists(FindFile(directory / host), error) && fs::exists(FindFile(host), error)) {
+        return ProgramPath(host);
+    }
+    std::string relative = name;
+    std::replace(relative.begin(), relative.end(), '/', '\\');
+    return relative;
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,35 @@
+// The catalogue as images, each pixel a square of whole device pixels.
+#pragma once
+
+#include "pictures/Bitmap.h"
+#include "world/Kind.h"
+
+#include <QImage>
+
+#include <functional>
+#include <vector>
+
+namespace tumbledeep {
+
+class SpriteImages {
+  public:
+    /// Draws all images anew if the scale is another than before.
+    void SetScale(int scale);
+
+    const QImage& Of(Picture picture) const { return pictures[static_cast<std::size_t>(picture)]; }
+    /// Of a kind that is a shape.
+    const QImage& Of(Kind shape) const { return shape == Kind::Dirt ? dirt : hardDirt; }
+    QImage You;
+
+  private:
+    int scaleNow = 0;
+    QImage hardDirt;
+    QImage dirt;
+    std::vector<QImage> pictures;
+};
+
+/// The bitmap enlarged by whole pixels; those that `covers` leaves out become transparent.
+QImage ImageOf(const Bitmap& bitmap, int scale,
+               const std::function<bool(int x, int y)>& covers = nullptr);
+
+} // namespace tumbledeep

@@ -1,0 +1,48 @@
+// The loader knows nothing of cells: it copies positions, and set-up fills the grid afterwards.
+#include "formats/LoadMap.h"
+
+#include "base/Failure.h"
+
+#include <utility>
+
+namespace tumbledeep {
+
+namespace {
+
+void ThrowFault(const MapLine& line) {
+    if (line.Fault) throw Failure{line.Fault->Number};
+}
+
+} // namespace
+
+void PutOnBoard(Board& board, const MapLine& line) {
+    if (line.What != MapLine::Is::Object) return;
+    if (line.Which == Kind::You) {
+        board.You.Top = line.Top.value_or(board.You.Top);
+        board.You.Left = line.Left.value_or(board.You.Left);
+        ThrowFault(line);
+        return board.YouStart();
+    }
+    Pool& pool = board.Pools[line.Which];
+    if (pool.Full()) throw Failure{Failure::Overflow};
+    const int index = pool.Add();
+    if (line.Top) pool.PutTop(index, *line.Top);
+    if (line.Left) pool.PutLeft(index, *line.Left);
+    ThrowFault(line);
+    board.DrawPicture(line.Which, index);
+    pool.Show(index);
+    if (RowOf(line.Which).Tag != TagUse::None) pool.SetTag(index, line.Text);
+}
+
+Board LoadMap(std::string bytes, std::uint32_t seed) {
+    Board board;
+    board.Randomize(seed);
+    for (FieldInput input(std::move(bytes)); !input.AtEnd();) {
+        PutOnBoard(board, ReadMapLine(input.Next()));
+    }
+    board.ResetArea();
+    board.ResetStart(seed);
+    return board;
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,24 @@
+// Names are compared by character code.
+#include "formats/MapList.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tumbledeep {
+
+std::vector<Record> ReadMapList(std::string bytes) {
+    std::vector<Record> list;
+    for (FieldInput input(std::move(bytes)); !input.AtEnd();) list.push_back(input.Next());
+    return list;
+}
+
+ListSearch FindNext(const std::vector<Record>& list, std::string_view name) {
+    if (list.empty()) return {true, std::nullopt};
+    const auto found = std::find_if(list.begin(), list.end(),
+                                    [name](const Record& record) { return record.Text == name; });
+    if (found == list.end()) return {false, std::nullopt};
+    const auto next = found + 1;
+    return {true, next == list.end() ? std::nullopt : std::optional(next->Text)};
+}
+
+} // namespace tumbledeep

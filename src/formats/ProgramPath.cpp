@@ -1,0 +1,19 @@
+// Nothing here asks the host: a path is text.
+#include "formats/ProgramPath.h"
+
+namespace tumbledeep {
+
+std::string getpath(std::string_view path) {
+    return std::string(path.substr(0, path.rfind('\\') + 1));
+}
+
+std::string getfilename(std::string_view path) {
+    return std::string(path.substr(path.rfind('\\') + 1));
+}
+
+std::string WithoutExtension(std::string_view name) {
+    constexpr std::size_t extension = 4;
+    return std::string(name.substr(0, name.size() < extension ? 0 : name.size() - extension));
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,56 @@
+// A system without a window: a script answers, and all that the program asks comes out as lines.
+#pragma once
+
+#include "formats/Script.h"
+#include "host/Platform.h"
+
+#include <ostream>
+#include <string>
+
+namespace tumbledeep {
+
+/// What a run is called with.
+struct ScriptedRun {
+    std::string Directory; ///< the program's directory, as a program path
+    std::string Command;
+    std::uint32_t Seed = 0;
+};
+
+class ScriptedPlatform final : public Platform {
+  public:
+    /// Writes its lines to `lines`; `script` and `lines` must outlive it.
+    ScriptedPlatform(const ScriptedRun& run, Script& script, std::ostream& lines);
+
+    /// The text as the trace prints it: in double quotes, with escapes, the program's directory at
+    /// its head as ".".
+    std::string Quoted(std::string_view text) const;
+
+    int MsgBox(const std::string& text, int style) override;
+    std::string InputBox(const std::string& prompt) override;
+    std::string ShowOpen(const OpenDialog& dialog) override;
+    /// Nothing: a script moves the board by its own event.
+    void DragBoard() override {}
+    void Shell(const std::string& commandLine) override;
+    std::string AppPath() const override { return run.Directory; }
+    std::string Command() const override { return run.Command; }
+    std::uint32_t Seed() override { return run.Seed; }
+    std::string OpenForInput(const std::string& path) override;
+    std::string GetPrivateProfileString(std::string_view section, std::string_view key,
+                                        const std::string& path) override;
+    void WritePrivateProfileString(std::string_view section, std::string_view key,
+                                   std::string_view value, const std::string& path) override;
+
+  protected:
+    void Ending() override;
+
+  private:
+    /// The next answer if there is one; throws ScriptFault unless `fits` takes it.
+    std::optional<ScriptAnswer> NextAnswer(const char* dialog, bool (*fits)(ScriptAnswer::To kind));
+    std::string ChosenPath(std::string path) const;
+
+    ScriptedRun run;
+    Script& script;
+    std::ostream& out;
+};
+
+} // namespace tumbledeep

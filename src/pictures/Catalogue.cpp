@@ -1,0 +1,74 @@
+// Which drawing belongs to which picture.
+#include "pictures/Catalogue.h"
+
+#include "pictures/Draw.h"
+
+#include <algorithm>
+
+namespace tumbledeep {
+
+namespace {
+
+using Pictures = std::array<Bitmap, PictureCount>;
+
+Bitmap& Place(Pictures& pictures, Picture picture) {
+    return pictures[static_cast<std::size_t>(picture)];
+}
+
+/// Where the spike of a kind points for a heading; only L and R mines have one.
+std::optional<Heading> SpikeOf(Kind mine, Heading heading) {
+    if (mine == Kind::MovingMineL) return LeftOf(heading);
+    if (mine == Kind::MovingMineR) return RightOf(heading);
+    return std::nullopt;
+}
+
+void DrawStores(Pictures& pictures) {
+    for (const KindRow& row : PoolKinds()) {
+        if (row.UpPic == Picture::None) continue;
+        Place(pictures, row.Template) = DrawStar(row.Which);
+        for (const Heading heading : Headings) {
+            const auto spike = SpikeOf(row.Which, heading);
+            Place(pictures, HeadingPicture(row.UpPic, heading)) =
+                spike ? DrawSpikedStar(row.Which, Ahead(*spike)) : DrawStar(row.Which);
+        }
+    }
+}
+
+/// Shapes lie at the bottom, then factories, over which everything else passes.
+std::array<Kind, PoolCount> OrderOfPainting() {
+    std::array<Kind, PoolCount> order{};
+    std::ranges::transform(PoolKinds(), order.begin(), &KindRow::Which);
+    std::ranges::stable_sort(order, {}, [](Kind kind) {
+        return RowOf(kind).IsShape ? 0 : kind == Kind::Factory ? 1 : 2;
+    });
+    return order;
+}
+
+Pictures DrawAll() {
+    Pictures pictures;
+    DrawStores(pictures);
+    for (int i = 0; i < GemTypePicCount; ++i) {
+        Place(pictures, Member(Picture::GemTypePic, i)) = DrawGem(i);
+    }
+    for (int i = 0; i < RoundRockPicCount; ++i) {
+        Place(pictures, Member(Picture::RoundRockPic, i)) = DrawRock(i);
+    }
+    Place(pictures, Picture::MovingMineT) = DrawMineT();
+    Place(pictures, Picture::Factory) = DrawFactory();
+    Place(pictures, Picture::Bang) = DrawBang();
+    return pictures;
+}
+
+} // namespace
+
+const std::array<Kind, PoolCount>& PaintOrder() {
+    static const std::array<Kind, PoolCount> order = OrderOfPainting();
+    return order;
+}
+
+const std::array<Bitmap, PictureCount>& Catalogue() {
+    static const Pictures pictures = DrawAll();
+    return pictures;
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,58 @@
+// What lies beneath the pictures, and what stands outside the board: shapes, disc and icon.
+#include "pictures/Canvas.h"
+#include "pictures/Catalogue.h"
+#include "pictures/Draw.h"
+
+namespace tumbledeep {
+
+namespace {
+
+Bitmap Filled(Colour colour) {
+    Bitmap bitmap;
+    bitmap.Pixels.fill(colour);
+    return bitmap;
+}
+
+Bitmap RimmedDisc(Colour fill, Colour rim) {
+    Bitmap bitmap;
+    for (int y = 0; y < Bitmap::Size; ++y) {
+        for (int x = 0; x < Bitmap::Size; ++x) {
+            if (!InFullDisc(x, y)) continue;
+            bitmap.At(x, y) = DistanceFromMiddle(x, y) > FullRadius - 1.0F ? rim : fill;
+        }
+    }
+    return bitmap;
+}
+
+/// A gem still in its rock.
+Bitmap DrawAppIcon() {
+    Bitmap bitmap = DrawRock(1);
+    StampDiamond(bitmap, 0, Middle - 2);
+    return bitmap;
+}
+
+} // namespace
+
+const Bitmap& ShapeBitmap(Shape shape) {
+    static const std::array<Bitmap, 3> shapes{RimmedDisc({255, 192, 192}, Black),
+                                              Filled({192, 192, 192}), Filled(Black)};
+    return shapes[static_cast<std::size_t>(shape)];
+}
+
+bool ShapeCovers(Shape shape, int x, int y) { return shape != Shape::You || InFullDisc(x, y); }
+
+const Bitmap& StatusDisc() {
+    static const Bitmap disc = RimmedDisc({255, 0, 0}, Black);
+    return disc;
+}
+
+bool StatusDiscCovers(int x, int y) { return InFullDisc(x, y); }
+
+const Bitmap& AppIcon() {
+    static const Bitmap icon = DrawAppIcon();
+    return icon;
+}
+
+bool AppIconCovers(int x, int y) { return InFullDisc(x, y); }
+
+} // namespace tumbledeep

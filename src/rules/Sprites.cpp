@@ -1,0 +1,41 @@
+// The moves that several rules share. A move keeps a sprite and its cell in step.
+#include "world/Board.h"
+
+#include <algorithm>
+
+namespace tumbledeep {
+
+void Board::MoveSprite(Kind kind, int index, Offset offset) {
+    Pool& pool = Pools[kind];
+    Area.Set(CellOf(pool[index]), Kind::Empty);
+    Area.Set(CellOf(pool[index], offset), kind);
+    pool.Move(index, offset);
+}
+
+void Board::TakeAway(Kind kind, int index) {
+    Area.Set(CellOf(Pools[kind][index]), Kind::Empty);
+    Pools[kind].Hide(index);
+}
+
+void Board::Turn(Kind kind, int index, Heading heading) {
+    Pools[kind].SetHeading(index, heading);
+    Pools[kind].Dress(index, HeadingPicture(RowOf(kind).UpPic, heading));
+}
+
+RollSide Board::DrawRollSide() { return random.Rnd() < 0.5F ? RollSide::Right : RollSide::Left; }
+
+void Board::Roll(Kind kind, int index, RollSide side) {
+    const Offset way = side == RollSide::Right ? ToRight : ToLeft;
+    const Sprite& sprite = Pools[kind][index];
+    if (Area(CellOf(sprite, way + Below)) == Kind::Empty &&
+        Area(CellOf(sprite, way)) == Kind::Empty) {
+        MoveSprite(kind, index, way);
+    }
+}
+
+bool Board::TouchesYou(const Sprite& sprite) const {
+    return std::any_of(Headings.begin(), Headings.end(),
+                       [&](Heading way) { return Area(CellOf(sprite, Ahead(way))) == Kind::You; });
+}
+
+} // namespace tumbledeep

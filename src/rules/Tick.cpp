@@ -1,0 +1,62 @@
+// The clock's table. The order of its rows is a rule of the game: what stands first on a tick sees
+// the board as the tick before has left it.
+#include "world/Board.h"
+
+namespace tumbledeep {
+
+namespace {
+
+/// A routine and the multiples of the counter at which it is due.
+struct Due {
+    int Multiple;
+    void (*Run)(Board& board, HeldKeys held);
+};
+
+template <auto Routine> void Plain(Board& board, HeldKeys /*held*/) { (board.*Routine)(); }
+
+void PollUnlessDead(Board& board, HeldKeys held) {
+    if (!board.YouDead) board.PollArrowKeys(held);
+}
+
+constexpr std::array<Due, 13> Clock{{
+    {10, Plain<&Board::CheckGameEnd>},
+    {10, Plain<&Board::FactoryTick>},
+    {10, Plain<&Board::MineLTick>},
+    {10, Plain<&Board::MineFLTick>},
+    {10, Plain<&Board::MineRTick>},
+    {10, Plain<&Board::MineTTick>},
+    {6, Plain<&Board::RockTick>},
+    {6, Plain<&Board::GemTick>},
+    {6, Plain<&Board::BangTick>},
+    {6, PollUnlessDead},
+    {30, Plain<&Board::ShowGemsRemaining>},
+    {30, Plain<&Board::MinePPTick>},
+    {20, Plain<&Board::MinePTick>},
+}};
+
+} // namespace
+
+Outcome Board::Tick(HeldKeys held) {
+    Result = Outcome::Running;
+    Walks.Clear();
+    TickCount = NextTick();
+    for (const Due& due : Clock) {
+        if (TickCount % due.Multiple != 0) continue;
+        due.Run(*this, held);
+        if (Result != Outcome::Running) return Result;
+    }
+    MoveReady = true;
+    return Result;
+}
+
+Outcome Board::Period(std::string_view letters, HeldKeys held) {
+    for (const char& letter : letters) MoveYou({&letter, 1});
+    return Interval100Timer.Enabled ? Tick(held) : Outcome::Running;
+}
+
+void Board::Die(Outcome road) {
+    YouDead = true;
+    Result = road;
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,21 @@
+// The gravity of gems: that of rocks without the violence.
+#include "world/Board.h"
+
+namespace tumbledeep {
+
+void Board::GemTick() {
+    const RollSide side = DrawRollSide();
+    const Pool& gems = Pools[Kind::Gem1Type];
+    for (const int gem : gems.InTurn()) {
+        switch (Area(CellOf(gems[gem], Below))) {
+        case Kind::Empty: MoveSprite(Kind::Gem1Type, gem, Below); break;
+        case Kind::You: TakeAway(Kind::Gem1Type, gem); break; // whether it was moving or not
+        case Kind::Gem1Type:
+        case Kind::RoundRock:
+        case Kind::MovingMineT: Roll(Kind::Gem1Type, gem, side); break;
+        default: break;
+        }
+    }
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,36 @@
+// L and R mines differ in one thing, the hand at which they keep their wall.
+#include "rules/mines/WallMine.h"
+
+namespace tumbledeep {
+
+namespace {
+
+/// At most one step and one turn.
+void TakeTurn(Board& board, Kind kind, int mine, Heading heading, Heading hand) {
+    const Sprite& sprite = board.Pools[kind][mine];
+    const auto isFree = [&](Heading way) {
+        return board.Area(CellOf(sprite, Ahead(way))) == Kind::Empty;
+    };
+    if (isFree(heading)) {
+        board.MoveSprite(kind, mine, Ahead(heading));
+        if (isFree(hand)) board.Turn(kind, mine, hand);
+    } else {
+        // The far side is taken without a look.
+        board.Turn(kind, mine, isFree(hand) ? hand : Opposite(hand));
+    }
+}
+
+} // namespace
+
+void WallMineTick(Board& board, Kind kind, Heading (*hand)(Heading)) {
+    const Pool& mines = board.Pools[kind];
+    for (const int mine : mines.InTurn()) {
+        // A mine whose tag is no heading stands still, and kills all the same.
+        if (const auto heading = mines.HeadingOf(mine)) {
+            TakeTurn(board, kind, mine, *heading, hand(*heading));
+        }
+        if (board.TouchesYou(mines[mine])) return board.YouDie();
+    }
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,35 @@
+// The loader, and the board's set-up behind it.
+#include "formats/LoadMap.h"
+#include "host/Platform.h"
+#include "windows/frmMain.h"
+
+namespace tumbledeep {
+
+void frmMain::LoadNewMap(FieldInput map) {
+    while (!map.AtEnd()) {
+        const MapLine line = ReadMapLine(map.Next());
+        // A title in the middle of a file stops the loading there until it is answered.
+        if (line.What == MapLine::Is::Title) Services.MsgBox(line.Text, MsgBoxStyle::Ok);
+        PutOnBoard(ActiveChild, line);
+        if (line.Which == Kind::You) ActiveChild.YouStart();
+    }
+    // ResetStart comes last: it sets view flags that ResizeForm may have cleared.
+    ActiveChild.ResetArea();
+    ActiveChild.ResizeForm();
+    ActiveChild.ResetStart();
+}
+
+void frmDocument::YouStart() {
+    Form.Top = Parent.Form.Height / 2.0F - You.Top;
+    Form.Left = Parent.Form.Width / 2.0F - You.Left;
+}
+
+void frmDocument::ResetStart() {
+    ViewMovesX = true;
+    ViewMovesY = true;
+    AutoMoveMode = ViewMode::GradualCentre;
+    Board::ResetStart(Services.Seed());
+    ViewChoice();
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,53 @@
+// Opening map lists, and the way from one process to the next.
+#include "base/Failure.h"
+#include "formats/MapList.h"
+#include "formats/ProgramPath.h"
+#include "host/Platform.h"
+#include "windows/Settings.h"
+#include "windows/frmMain.h"
+
+namespace tumbledeep {
+
+std::string frmMain::ListInUse() {
+    const std::string list = IniRead(Services, "Level", "MapList");
+    return (list.empty() ? "Default" : list) + ".TBL";
+}
+
+std::vector<Record> frmMain::OpenMapList(const std::string& directory, const std::string& name) {
+    try {
+        return ReadMapList(Services.OpenForInput(directory + "\\" + name));
+    } catch (const Failure&) {
+        Services.MsgBox("The map list " + getfilename(name) + " can't be opened.",
+                        MsgBoxStyle::Stop);
+        Services.End();
+    }
+}
+
+std::string frmMain::FirstOfMapList(const std::string& directory, const std::string& name) {
+    const std::vector<Record> list = OpenMapList(directory, name);
+    if (list.empty()) {
+        Services.MsgBox("The map list " + getfilename(name) + " is empty.", MsgBoxStyle::Stop);
+        Services.End();
+    }
+    return list.front().Text;
+}
+
+void frmMain::MnuBeginagain_Click() {
+    // Without an extension: the new process adds one.
+    PlayNext(FirstOfMapList(Services.AppPath(), ListInUse()));
+}
+
+void frmMain::PlayNext(const std::string& map) {
+    IniWrite(Services, "Level", "Load", map);
+    IniWrite(Services, "Level", "StartMap", BoolText(true));
+    Relaunch("");
+}
+
+void frmMain::Relaunch(const std::string& argument) {
+    Services.Shell(Services.AppPath() + "\\tumbledeep" + argument);
+    Services.End();
+}
+
+void frmDocument::StartLastMap(bool on) { IniWrite(Services, "Level", "StartMap", BoolText(on)); }
+
+} // namespace tumbledeep

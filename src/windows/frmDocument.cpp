@@ -1,0 +1,60 @@
+// The board's window: its clock, its keys, its mouse. A pause by a key, a click and a lost focus do
+// not know of each other: any of them may end another's.
+#include "windows/frmDocument.h"
+
+#include "host/Platform.h"
+#include "windows/frmMain.h"
+
+namespace tumbledeep {
+
+namespace {
+
+constexpr int LeftButton = 1;
+
+} // namespace
+
+frmDocument::frmDocument(frmMain& parent, Platform& services) : Parent(parent), Services(services) {
+    Form.Caption = "Area";
+}
+
+void frmDocument::Interval100Timer_Timer() {
+    // A flip comes before whatever moves in its tick, as its place in the clock's table has it.
+    const bool flips = AutoMoveOn && AutoMoveMode == ViewMode::EdgeOfScreen;
+    if (flips && NextTick() % 10 == 0) ViewEdgeTick();
+    const Outcome outcome = Tick(ArrowKeys);
+    constexpr int statusPeriod = 30; // as the clock's table has it
+    if (TickCount % statusPeriod == 0 && GemsShown) {
+        const std::string number = std::to_string(*GemsShown);
+        Parent.Info.Panel = "Gems Remaining: " + (*GemsShown < 0 ? number : " " + number);
+    }
+    if (outcome != Outcome::Running) EndMap(outcome);
+    NudgeView();
+    ViewTick();
+}
+
+void frmDocument::Input_Box_Change() {
+    if (Input_Box.Text.empty()) return;
+    const std::string key = Input_Box.Text;
+    MoveYou(key);
+}
+
+void frmDocument::MoveYou(std::string_view key) {
+    // The change event that this fires finds an empty text and does nothing.
+    Input_Box.Text.clear();
+    Board::MoveYou(key);
+    NudgeView();
+}
+
+void frmDocument::Form_GotFocus() { Interval100Timer.Enabled = true; }
+
+void frmDocument::Form_LostFocus() { Interval100Timer.Enabled = false; }
+
+void frmDocument::Form_MouseDown(int button) {
+    if (button == LeftButton) Interval100Timer.Enabled = !Interval100Timer.Enabled;
+}
+
+void frmDocument::Form_MouseMove(int button) {
+    if (button == LeftButton) Services.DragBoard();
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,107 @@
+// Tags as numbers, and the scans of a pool.
+#include "world/Pool.h"
+
+#include "base/Hash.h"
+#include "world/Kind.h"
+
+#include <algorithm>
+
+namespace tumbledeep {
+
+namespace {
+
+constexpr TagNumber FirstHeading{1};
+constexpr int FirstText = 5;
+/// Tags that are no heading are few and much alike; this many are looked through for an equal one.
+constexpr std::size_t TextsCompared = 64;
+
+TagNumber NumberOf(Heading heading) {
+    return static_cast<TagNumber>(static_cast<int>(FirstHeading) + static_cast<int>(heading));
+}
+
+} // namespace
+
+Pool::Pool(const KindRow& row)
+    : sprites{{row.TemplateLeft, row.TemplateTop, TagNumber::None, false, row.Template}} {}
+
+int Pool::Add() {
+    Sprite added = sprites.front();
+    added.Visible = false;
+    sprites.push_back(added);
+    return Count() - 1;
+}
+
+std::optional<Heading> Pool::HeadingOf(int index) const {
+    const int number = static_cast<int>((*this)[index].Tag);
+    if (number < static_cast<int>(FirstHeading) || number >= FirstText) return std::nullopt;
+    return static_cast<Heading>(number - static_cast<int>(FirstHeading));
+}
+
+std::string_view Pool::TextOf(TagNumber tag) const {
+    const int number = static_cast<int>(tag);
+    if (tag == TagNumber::None) return "";
+    if (number < FirstText) {
+        return HeadingLetters[static_cast<std::size_t>(number - static_cast<int>(FirstHeading))];
+    }
+    return texts[static_cast<std::size_t>(number - FirstText)];
+}
+
+std::string_view Pool::TagText(int index) const { return TextOf((*this)[index].Tag); }
+
+void Pool::SetHeading(int index, Heading heading) { At(index).Tag = NumberOf(heading); }
+
+void Pool::SetTag(int index, std::string_view text) {
+    if (text.empty()) {
+        At(index).Tag = TagNumber::None;
+        return;
+    }
+    if (const auto heading = HeadingNamed(text)) return SetHeading(index, *heading);
+    const auto last =
+        texts.begin() + static_cast<std::ptrdiff_t>(std::min(texts.size(), TextsCompared));
+    auto found = std::find(texts.begin(), last, text);
+    if (found == last) found = texts.insert(texts.end(), std::string(text));
+    At(index).Tag = static_cast<TagNumber>(FirstText + (found - texts.begin()));
+}
+
+int Pool::LastHidden() const {
+    const auto hidden = std::find_if(sprites.rbegin(), sprites.rend(),
+                                     [](const Sprite& sprite) { return !sprite.Visible; });
+    return static_cast<int>(sprites.rend() - hidden) - 1;
+}
+
+int Pool::HiddenCount() const {
+    return static_cast<int>(std::count_if(sprites.begin(), sprites.end(),
+                                          [](const Sprite& sprite) { return !sprite.Visible; }));
+}
+
+int Pool::NextAt(int from, float left, float top) const {
+    const auto found =
+        std::find_if(sprites.begin() + from, sprites.end(), [left, top](const Sprite& sprite) {
+            return sprite.Top == top && sprite.Left - 1.0F < left && left < sprite.Left + 1.0F;
+        });
+    return static_cast<int>(found - sprites.begin());
+}
+
+void Pool::AddTo(Hash& hash) const {
+    hash.Add(sprites.size());
+    for (const Sprite& sprite : sprites) {
+        hash.Add(std::uint64_t{std::bit_cast<std::uint32_t>(sprite.Left)} << 32U |
+                 std::bit_cast<std::uint32_t>(sprite.Top));
+        hash.Add((static_cast<unsigned>(sprite.Look) << 1U) | unsigned{sprite.Visible});
+        // The number of another text depends on the pool's past, so the text itself counts.
+        const int tag = static_cast<int>(sprite.Tag);
+        tag < FirstText ? hash.Add(tag) : hash.Add(TextOf(sprite.Tag));
+    }
+}
+
+bool operator==(const Pool& a, const Pool& b) {
+    if (a.texts == b.texts) return a.sprites == b.sprites;
+    for (int i = 0; i < std::min(a.Count(), b.Count()); ++i) {
+        Sprite own = a[i];
+        own.Tag = b[i].Tag;
+        if (own != b[i] || a.TagText(i) != b.TagText(i)) return false;
+    }
+    return a.Count() == b.Count();
+}
+
+} // namespace tumbledeep
