@@ -1,19 +1,15 @@
-// The settings of a benchmark's game lie in the system's directory for temporary files.
+// Maps are made in memory, but for those that ship.
 #include "Boards.h"
 
-#include "platform/HostFiles.h"
+#include "host/HostFiles.h"
 
+#include <algorithm>
+#include <array>
 #include <filesystem>
 
 namespace tumbledeep {
 
 namespace {
-
-ScriptedRun RunInTemporaryDirectory() {
-    const auto directory = std::filesystem::temp_directory_path() / "tumbledeep-bench";
-    std::filesystem::create_directories(directory);
-    return {ProgramPath(directory), "", 1};
-}
 
 std::string Line(const Object& object, int col, int row) {
     if (object.Keyword.empty()) return "";
@@ -22,13 +18,6 @@ std::string Line(const Object& object, int col, int row) {
 }
 
 } // namespace
-
-Bench::Bench(const std::string& map) : Services(RunInTemporaryDirectory(), Answers, Lines) {
-    Game.Form.Width = 15360;
-    Game.Form.Height = 11520;
-    Game.MapFile = FieldInput(map);
-    Game.LoadNewMap();
-}
 
 std::string MapOf(int size, const std::function<Object(int col, int row)>& inside) {
     std::string map;
@@ -39,6 +28,28 @@ std::string MapOf(int size, const std::function<Object(int col, int row)>& insid
         }
     }
     return map;
+}
+
+std::string MapOf90000Lines() {
+    static constexpr std::array<const char*, 4> kinds{"dirt", "harddirt", "gem1type", "roundrock"};
+    std::string map;
+    for (int i = 0; i < 90'000; ++i) {
+        map += Line({kinds[static_cast<std::size_t>(i % 4)], ""}, i % 300, i / 300);
+    }
+    return map;
+}
+
+std::string ShippedMap(const std::string& file) {
+    return ReadFile(std::filesystem::path(TUMBLEDEEP_LEVELS) / file);
+}
+
+std::vector<std::string> ShippedMaps() {
+    std::vector<std::string> files;
+    for (const auto& file : std::filesystem::directory_iterator(TUMBLEDEEP_LEVELS)) {
+        if (file.path().extension() == ".TBM") files.push_back(file.path().filename().string());
+    }
+    std::sort(files.begin(), files.end());
+    return files;
 }
 
 } // namespace tumbledeep

@@ -1,12 +1,9 @@
 // Time per tick, over whole cycles of the clock, since most ticks run only a few routines.
 #include "Boards.h"
 
-#include "platform/HostFiles.h"
-#include "platform/Platform.h"
+#include "formats/LoadMap.h"
 
 #include <benchmark/benchmark.h>
-
-#include <filesystem>
 
 namespace tumbledeep {
 
@@ -18,22 +15,24 @@ constexpr int LargestMap = 301;
 /// A gem out of reach keeps a map from being won, and a player off the grid from being lost.
 const std::string Endless = "gem1type 0 0\nyou 1e9 1e9\n";
 
+void CountTicks(benchmark::State& state, double ticks) {
+    state.counters["per_tick"] =
+        benchmark::Counter(ticks, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+}
+
 /// Plays whole cycles of one board.
 void PlayCycles(benchmark::State& state, const std::string& map) {
-    Bench bench(map + Endless);
+    Board board = LoadMap(map + Endless, 1);
     for (auto cycle : state) {
-        for (int tick = 0; tick < Cycle; ++tick) bench.Board().Interval100Timer_Timer();
+        for (int tick = 0; tick < Cycle; ++tick) board.Tick({});
     }
-    state.counters["per_tick"] =
-        benchmark::Counter(static_cast<double>(state.iterations()) * Cycle,
-                           benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    CountTicks(state, static_cast<double>(state.iterations()) * Cycle);
 }
 
 void LargestShippedMap(benchmark::State& state) {
     std::string largest;
-    for (const auto& file : std::filesystem::directory_iterator(TUMBLEDEEP_LEVELS)) {
-        if (file.path().extension() != ".TBM") continue;
-        std::string map = ReadFile(file.path());
+    for (const std::string& file : ShippedMaps()) {
+        std::string map = ShippedMap(file);
         if (map.size() > largest.size()) largest = std::move(map);
     }
     PlayCycles(state, largest);
@@ -67,21 +66,21 @@ void ChainOf5000Mines(benchmark::State& state) {
         const bool here = col > 1 && row > 1 && col < 102 && mines < 5'000;
         return here ? (++mines, Object{"movingmineP", "none"}) : Object{};
     });
+    Board start = LoadMap(map + Endless, 1);
+    start.SpawnObject(Kind::Bang, 360, 360, Heading::Down);
     int ticks = 0;
     for (auto chain : state) {
-        state.PauseTiming();
-        Bench bench(map + Endless);
-        frmDocument& board = bench.Board();
-        board.SpawnObject("bang", 360, 360, "D");
-        state.ResumeTiming();
+        Board board = start;
+        const Pool& bangs = board.Pools[Kind::Bang];
         do {
-            board.Interval100Timer_Timer();
+            board.Tick({});
             ++ticks;
-        } while (board.Bang.HiddenCount() < board.Bang.Count());
-        if (board.MovingMineP.HiddenCount() < mines) state.SkipWithError("the chain broke off");
+        } while (bangs.HiddenCount() < bangs.Count());
+        if (board.Pools[Kind::MovingMineP].HiddenCount() < mines) {
+            state.SkipWithError("the chain broke off");
+        }
     }
-    state.counters["per_tick"] =
-        benchmark::Counter(ticks, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    CountTicks(state, ticks);
 }
 BENCHMARK(ChainOf5000Mines)->Unit(benchmark::kMillisecond);
 

@@ -1,0 +1,55 @@
+// A seeded player on seeded maps: whole sessions of the program, with first starts, a map list,
+// deaths, wins and menu entries, as far from careful play as it gets.
+#pragma once
+
+#include "base/Hash.h"
+#include "base/Random.h"
+#include "host/MemoryPlatform.h"
+#include "windows/frmMain.h"
+
+#include <array>
+#include <memory>
+#include <string>
+
+namespace tumbledeep {
+
+/// Choices from one generator, so that a seed names a whole session on every host.
+class Dice {
+  public:
+    explicit Dice(std::uint32_t seed) { random.Seed(seed); }
+    /// A whole number from 0, below a limit.
+    int Below(int limit) { return static_cast<int>(random.Rnd() * static_cast<float>(limit)); }
+    bool Once(int in) { return Below(in) == 0; }
+    /// A text of a table.
+    template <std::size_t Size> std::string OneOf(const std::array<const char*, Size>& table) {
+        return table[static_cast<std::size_t>(Below(static_cast<int>(Size)))];
+    }
+
+  private:
+    Random random;
+};
+
+/// The text of a map whose mixture of kinds is the seed's own.
+std::string RandomMap(std::uint32_t seed);
+
+class RandomGame {
+  public:
+    explicit RandomGame(std::uint32_t seed);
+
+    /// One period of the timer, with whatever the player does in it. When the process has ended,
+    /// the next one starts.
+    void Period();
+    /// Takes all into a hash: the board, the view, the captions, the settings and all that the
+    /// program has asked for.
+    void AddTo(Hash& hash);
+
+  private:
+    void Start();
+    void Act();
+
+    Dice dice;
+    MemoryPlatform services;
+    std::unique_ptr<frmMain> game;
+};
+
+} // namespace tumbledeep

@@ -1,0 +1,38 @@
+// Settings text: a player's other lines are never lost.
+#include "formats/Profile.h"
+
+#include <gtest/gtest.h>
+
+namespace tumbledeep {
+
+TEST(Profile, ValuesAreFoundWithoutRegardToCase) {
+    const std::string text = "\xEF\xBB\xBF[other]\nload=0\n; [Level]\n\n[ LEVEL ]\r\n;load=1\n"
+                             "nonsense\n  LoAd  = two words =x \r\nLOAD=3\n[Level]\nMODE=4";
+    EXPECT_EQ(ProfileValue(text, "Level", "load"), " two words =x ") << "as it stands";
+    EXPECT_EQ(ProfileValue(text, "other", "LOAD"), "0");
+    EXPECT_EQ(ProfileValue(text, "Level", "mode"), "") << "only the first section of a name counts";
+    EXPECT_EQ(ProfileValue(text, "Level", "loa"), "");
+}
+
+TEST(Profile, WritesChangeOneLineAlone) {
+    // Before and after LOAD=new in [Level].
+    for (const auto& [before, after] :
+         {std::pair<const char*, std::string>{"", "[Level]\nLOAD=new\n"},
+          {"[level]\nA=1\nLoad = old\nB=2\n", "[level]\nA=1\nLOAD=new\nB=2\n"},
+          {"[Level]\r\nLOAD=old\r\n; note\r\n", "[Level]\r\nLOAD=new\r\n; note\r\n"},
+          {"[Level]\nLOAD=old", "[Level]\nLOAD=new"},
+          {"[Level]\r\nA=1\r\n\r\n\r\n[B]\r\nLOAD=2\r\n",
+           "[Level]\r\nA=1\r\nLOAD=new\r\n\r\n\r\n[B]\r\nLOAD=2\r\n"},
+          {"[Level]\nA=1", "[Level]\nA=1\nLOAD=new\n"},
+          {"; mine\n[B]\nX=1", "; mine\n[B]\nX=1\n[Level]\nLOAD=new\n"},
+          {"[Level]\n;LOAD=old\nLOAD\n", "[Level]\n;LOAD=old\nLOAD\nLOAD=new\n"},
+          {"[Level]\nLOAD=1\nLOAD=2\n[Level]\n", "[Level]\nLOAD=new\nLOAD=2\n[Level]\n"},
+          {"\xEF\xBB\xBF[Level]\nLOAD=old\n", "\xEF\xBB\xBF[Level]\nLOAD=new\n"}}) {
+        EXPECT_EQ(ProfileWith(before, "Level", "LOAD", "new"), after);
+        EXPECT_EQ(ProfileValue(after, "Level", "load"), "new");
+    }
+    EXPECT_EQ(ProfileWith("", "Level", "LOAD", "x\nMAPLIST=y"), "[Level]\nLOAD=x\n")
+        << "a value forges no lines";
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,113 @@
+// What a player must be able to tell from the pictures: kinds, hands and colours.
+#include "pictures/Catalogue.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <map>
+
+namespace tumbledeep {
+
+namespace {
+
+using enum Picture;
+
+struct Star {
+    Picture Template, Up;
+    std::array<Colour, 3> Shades;
+};
+
+constexpr Colour White{};
+constexpr std::array<Star, 5> Stars{
+    {{MovingMineL, MovingMineLUpPic, {{{0, 0, 128}, {128, 128, 255}, {192, 192, 255}}}},
+     {MovingMineR, MovingMineRUpPic, {{{128, 0, 0}, {255, 128, 128}, {255, 192, 192}}}},
+     {MovingMineFL, MovingMineFLUpPic, {{{0, 115, 0}, {128, 255, 128}, {192, 255, 192}}}},
+     {MovingMineP, MovingMinePUpPic, {{{128, 0, 128}, {255, 128, 255}, {255, 192, 255}}}},
+     {MovingMinePP, MovingMinePPUpPic, {{{0, 0, 0}, {128, 128, 128}, {192, 192, 192}}}}}};
+
+const Bitmap& Look(Picture picture) { return Catalogue()[static_cast<std::size_t>(picture)]; }
+
+bool Holds(const auto& colours, Colour colour) {
+    return std::find(colours.begin(), colours.end(), colour) != colours.end();
+}
+
+TEST(Catalogue, SpikesPointToTheHandSideAndTouchNoOtherEdge) {
+    constexpr int last = Bitmap::Size - 1;
+    constexpr int barWidth = 3;
+    for (const auto& [up, hands] :
+         {std::pair{MovingMineLUpPic, "LRDU"}, {MovingMineRUpPic, "RLUD"}}) {
+        for (std::size_t i = 0; i < Headings.size(); ++i) {
+            const Bitmap& look = Look(HeadingPicture(up, Headings[i]));
+            std::map<char, int> painted;
+            for (int at = 0; at <= last; ++at) {
+                painted['U'] += look.At(at, 0) != White;
+                painted['D'] += look.At(at, last) != White;
+                painted['L'] += look.At(0, at) != White;
+                painted['R'] += look.At(last, at) != White;
+            }
+            EXPECT_GT(painted[hands[i]], barWidth) << hands << i;
+            painted.erase(hands[i]);
+            for (const auto& [edge, count] : painted) EXPECT_EQ(count, 0) << hands << i << edge;
+        }
+    }
+}
+
+TEST(Catalogue, StarsKeepToTheirColoursAndPatrolsAloneShowTheirHeading) {
+    for (const Star& star : Stars) {
+        SCOPED_TRACE(PictureName(star.Template));
+        const bool patrol = &star < &Stars[2];
+        for (const Colour shade : star.Shades)
+            EXPECT_TRUE(Holds(Look(star.Template).Pixels, shade));
+        for (const Heading heading : Headings) {
+            const Bitmap& store = Look(HeadingPicture(star.Up, heading));
+            EXPECT_EQ(store != Look(star.Template), patrol);
+            for (const Colour pixel : store.Pixels)
+                EXPECT_TRUE(pixel == White || Holds(star.Shades, pixel));
+        }
+    }
+}
+
+TEST(Catalogue, EveryPictureIsDrawnAndNoTwoMembersAlike) {
+    for (int i = 1; i < PictureCount; ++i) {
+        EXPECT_NE(Look(static_cast<Picture>(i)), Bitmap{}) << PictureName(static_cast<Picture>(i));
+    }
+    for (const auto& [pool, count] :
+         {std::pair{GemTypePic, GemTypePicCount}, {RoundRockPic, RoundRockPicCount}}) {
+        for (int i = 1; i < count; ++i) {
+            EXPECT_NE(Look(Member(pool, i)), Look(Member(pool, i - 1))) << i;
+        }
+    }
+    const std::map<Picture, Colour> middles{
+        {GemTypePic, {0, 0, 0}}, {Member(GemTypePic, 3), {255, 255, 255}}, {Bang, {255, 255, 0}}};
+    for (const auto& [picture, colour] : middles) {
+        EXPECT_EQ(Look(picture).At(Bitmap::Size / 2, Bitmap::Size / 2), colour)
+            << PictureName(picture);
+    }
+}
+
+TEST(Catalogue, MinesAreToldApartWithoutHue) {
+    constexpr std::array mines{MovingMineT,  MovingMineL, MovingMineR,
+                               MovingMineFL, MovingMineP, MovingMinePP};
+    const auto luminance = [](Colour c) {
+        return 0.2126 * c.Red + 0.7152 * c.Green + 0.0722 * c.Blue;
+    };
+    constexpr double noticeable = 48;
+    constexpr int enough = 16;
+    for (const Picture one : mines) {
+        for (const Picture other : mines) {
+            if (one == other) continue;
+            int apart = 0;
+            for (std::size_t i = 0; i < Look(one).Pixels.size(); ++i) {
+                const double grey = luminance(Look(one).Pixels[i]);
+                apart += std::abs(grey - luminance(Look(other).Pixels[i])) >= noticeable;
+            }
+            EXPECT_GE(apart, enough) << PictureName(one) << " and " << PictureName(other);
+        }
+    }
+}
+
+} // namespace
+
+} // namespace tumbledeep

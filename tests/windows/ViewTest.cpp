@@ -1,0 +1,119 @@
+// The following view: strict thresholds, both axes, three modes, and the choice among them.
+#include "support/Game.h"
+
+#include <gtest/gtest.h>
+
+namespace tumbledeep {
+
+namespace {
+
+/// An open board with the player in cell (place, place) and a parent of 15360 by 11520 twips.
+struct View : Game {
+    View(int place, int mode) : Game(place, place) {
+        Board.AutoMoveOn = true;
+        Board.AutoMoveMode = static_cast<ViewMode>(mode);
+    }
+    Window& Form = Board.Form;
+};
+
+TEST(View, GlideClosesATenthOfTheGapOrTwice) {
+    // The player at Top 0 and Left 0: the glide aims at Top 5400 and at Left 7320.
+    using Case = std::pair<float, float>; // less the aim
+    for (const auto& [from, to] :
+         {Case{-720, -648}, Case{-719, -582.39F}, Case{0, 0}, Case{720, 583.2F},
+          Case{1599, 1295.19F}, Case{1600, 1440}, Case{-9000, -8100}}) {
+        View scene(1, 2);
+        scene.Form.Top = 5400 + from;
+        scene.Form.Left = 7320 + from;
+        scene.Ticks(1);
+        EXPECT_NEAR(scene.Form.Top, 5400 + to, 0.01F) << from;
+        EXPECT_NEAR(scene.Form.Left, 7320 + to, 0.01F) << from;
+    }
+}
+
+TEST(View, SmallMapIsSizedByWallsAndDirtAndGlidesFromItsCentredPlace) {
+    Game scene("you 720 1080\nharddirt 720 360\ndirt 360 360\ngem1type 0 1800\nroundrock 1080 0\n");
+    EXPECT_EQ(scene.Board.Form.Width, 735);
+    EXPECT_EQ(scene.Board.Form.Height, 1095);
+    scene.Ticks(5);
+    EXPECT_EQ(scene.Board.Form.Left, 7680 - 367.5F);
+    EXPECT_EQ(scene.Board.Form.Top, 5760 - 547.5F - 720) << "switched off";
+    scene.Board.AutoMoveOn = true;
+    scene.Ticks(200);
+    EXPECT_NEAR(scene.Board.Form.Left, 7680 - 360 - 3 * 360, 1);
+    EXPECT_NEAR(scene.Board.Form.Top, 5760 - 360 - 2 * 360, 1);
+}
+
+TEST(View, EdgeFlipsByAPageAtStrictThresholds) {
+    using Case = std::tuple<float Window::*, float, float>;
+    constexpr auto top = &Window::Top;
+    constexpr auto left = &Window::Left;
+    for (const auto& [side, place, after] :
+         {Case{top, 9720, 9720}, Case{top, 9721, -719}, Case{top, -720, -720},
+          Case{top, -721, 9719}, Case{left, 14280, 14280}, Case{left, 14281, 1}, Case{left, 0, 0},
+          Case{left, -1, 14279}}) {
+        View scene(1, 3);
+        scene.Form.Top = scene.Form.Left = 5000;
+        scene.Form.*side = place;
+        scene.Ticks(9);
+        EXPECT_EQ(scene.Form.*side, place) << "only at multiples of ten";
+        scene.Ticks(11);
+        EXPECT_EQ(scene.Form.*side, after) << place;
+    }
+}
+
+TEST(View, WalkNudgesTheBoardInMode1) {
+    // Key, column and row of the player before the step, near side and size of the board, and by
+    // how much it moves. In pairs on both sides of a limit: the player at 6784, 4736, 8704 and
+    // 7680 in the parent for "w", "s", "a" and "d", the near side at 0, the far one at 10270 and
+    // 15000.
+    using Case = std::tuple<char, int, float, float, float>;
+    for (const auto& [key, place, from, size, moves] :
+         {Case{'w', 30, -3296, 0, 0}, Case{'w', 30, -3297, 0, 360}, Case{'w', 10, 0, 0, 0},
+          Case{'w', 10, -1, 0, 360}, Case{'s', 30, -6064, 20000, 0},
+          Case{'s', 30, -6063, 20000, -360}, Case{'s', 30, -6000, 16270, 0},
+          Case{'s', 30, -6000, 16271, -360}, Case{'a', 30, -1376, 0, 0},
+          Case{'a', 30, -1377, 0, 360}, Case{'a', 10, 0, 0, 0}, Case{'a', 10, -1, 0, 360},
+          Case{'d', 30, -3120, 30000, 0}, Case{'d', 30, -3119, 30000, -360},
+          Case{'d', 30, -3000, 18000, 0}, Case{'d', 30, -3000, 18001, -360}}) {
+        for (const auto& [mode, open] :
+             {std::pair{1, true}, std::pair{1, false}, std::pair{2, true}, std::pair{3, true}}) {
+            View scene(place, mode);
+            const bool upright = key == 'w' || key == 's';
+            float& side = upright ? scene.Form.Top : scene.Form.Left;
+            side = from;
+            (upright ? scene.Form.Height : scene.Form.Width) = size;
+            scene.Board.ViewMovesX = scene.Board.ViewMovesY = true;
+            for (const Heading to : Headings) {
+                if (!open) scene.Board.Area.Set(CellOf(scene.Board.You, Ahead(to)), Kind::HardDirt);
+            }
+            scene.Type({key});
+            EXPECT_EQ(side - from, mode == 1 && open ? moves : 0) << key << from << ' ' << size;
+        }
+    }
+}
+
+TEST(View, FirstRunAsksOnce) {
+    const std::string ask = "box 36 Do you want to the form to move automatically?; ";
+    const std::string askMode =
+        "input What mode do you want, 1:Centre, 2: Gradual Centre, 3: Edge of screen; ";
+    using Typed = std::pair<const char*, int>;
+    for (const auto& [text, mode] :
+         {Typed{"1", 1}, Typed{" 3 ", 3}, Typed{"7", 3}, Typed{"0", 2}, Typed{"abc", 2},
+          Typed{"", 2}, Typed{"-1", -1}, Typed{"2.5", 2}, Typed{"1st", 1}, Typed{"1e39", 3},
+          Typed{"-99999", -32768}}) {
+        Game scene;
+        scene.Services.Settings().clear();
+        scene.Services.Answers = {"yes", text};
+        scene.Board.ResetStart();
+        scene.Board.ResetStart();
+        EXPECT_TRUE(scene.Board.AutoMoveOn);
+        EXPECT_EQ(static_cast<int>(scene.Board.AutoMoveMode), mode) << text;
+        EXPECT_EQ(scene.Services.Log, ask + "[AutoMove] MOVE=True; " + askMode +
+                                          "[AutoMove] MODE=" + std::to_string(mode));
+    }
+}
+
+} // namespace
+
+} // namespace tumbledeep
