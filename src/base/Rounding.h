@@ -17,12 +17,13 @@ static_assert(std::numeric_limits<float>::is_iec559);
 #error "the rules of the game need exact single precision: build without -ffast-math"
 #endif
 
-/// The nearest whole number, a tie going to the even one. Adding and taking off a number whose
-/// last bit weighs 1 lets the processor round; from 2^22 on single precision needs none here.
+/// The nearest whole number, a tie going to the even one. Adding and taking off 2^23, beyond which
+/// single precision has whole numbers alone, lets the processor round. Zero loses its sign.
 constexpr float RoundToEven(float value) {
-    constexpr float limit = 0x1p22F;
-    constexpr float lastBitOne = 0x1.8p23F;
-    return value > -limit && value < limit ? (value + lastBitOne) - lastBitOne : value;
+    constexpr float wholeFrom = 0x1p23F;
+    if (value >= 0.0F && value < wholeFrom) return (value + wholeFrom) - wholeFrom;
+    if (value < 0.0F && value > -wholeFrom) return (value - wholeFrom) + wholeFrom;
+    return value;
 }
 
 /// A counter of 16 bits: what does not fit is cut off as the game's counters cut it.
