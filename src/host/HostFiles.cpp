@@ -16,11 +16,12 @@ namespace tumbledeep {
 namespace fs = std::filesystem;
 
 fs::path HostPath(std::string_view programPath) {
-    const bool hasDrive = HasDrive(programPath);
-    std::string path(hasDrive ? programPath.substr(HostDrive.size()) : programPath);
+    const bool fromRoot = programPath.starts_with(HostDrive);
+    if (HasDrive(programPath) && !fromRoot) return {};
+    std::string path(fromRoot ? programPath.substr(HostDrive.size()) : programPath);
     std::replace(path.begin(), path.end(), '\\', '/');
     const fs::path host(path);
-    return (hasDrive ? fs::path("/") / host.relative_path() : host).lexically_normal();
+    return (fromRoot ? fs::path("/") / host.relative_path() : host).lexically_normal();
 }
 
 std::string ProgramPath(const fs::path& hostPath) {

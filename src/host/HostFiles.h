@@ -7,7 +7,8 @@
 
 namespace tumbledeep {
 
-/// The host's path for one of the program's. A path without a drive is taken as it stands.
+/// The host's path for one of the program's. A path without a drive is taken as it stands; one on
+/// another drive than the host's has none, and the empty path is never found.
 std::filesystem::path HostPath(std::string_view programPath);
 
 /// The program's path for one of the host's, made absolute, without a "\" at its end.

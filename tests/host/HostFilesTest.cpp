@@ -15,6 +15,8 @@ TEST(HostFiles, PathsBothWays) {
     EXPECT_EQ(HostPath("Z:\\games\\..\\a.TBM"), "/a.TBM");
     EXPECT_EQ(HostPath("sub\\a.TBM"), "sub/a.TBM");
     EXPECT_EQ(HostPath("/host/a.TBM"), "/host/a.TBM");
+    EXPECT_THROW(ReadFile(FindFile(HostPath("C:\\games\\a.TBM"))), Failure);
+    EXPECT_EQ(HostPath("C:\\tmp"), "") << "only Z: is the host's";
     EXPECT_EQ(ProgramPath("/games/./x/../tumble"), "Z:\\games\\tumble");
     EXPECT_EQ(ProgramPath("."), ProgramPath(fs::current_path()));
 }
