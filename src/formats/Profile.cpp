@@ -1,4 +1,4 @@
-// Only the first section of a name counts, and in it the first line of a key.
+// A text is read into lines, and a change puts one line in the place of another.
 #include "formats/Profile.h"
 
 #include "base/Text.h"
@@ -9,90 +9,99 @@ namespace tumbledeep {
 
 namespace {
 
-struct Line {
-    std::string_view Text; ///< without its line end
-    std::size_t Start;
-    std::size_t Next; ///< where the next line starts
-};
-
-std::optional<Line> LineAt(std::string_view text, std::size_t start) {
-    if (start >= text.size()) return std::nullopt;
-    const std::size_t feed = text.find('\n', start);
-    const std::size_t next = feed == std::string_view::npos ? text.size() : feed + 1;
-    std::string_view line = text.substr(start, next - start);
-    if (line.ends_with('\n')) line.remove_suffix(1);
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    return Line{line, start, next};
-}
-
 constexpr std::string_view Blanks = " \t";
+constexpr std::string_view LineEnds = "\r\n";
 
-bool IsHeader(std::string_view line) { return Trimmed(line, Blanks).starts_with('['); }
-
-bool IsHeaderOf(std::string_view line, std::string_view section) {
-    line = Trimmed(line, Blanks);
-    return line.starts_with('[') && line.ends_with(']') &&
-           SameButCase(Trimmed(line.substr(1, line.size() - 2), Blanks), section);
+/// Says what a line is, by its text without its end.
+void Tell(ProfileLine& line, std::string_view text) {
+    const std::string_view trimmed = Trimmed(text, Blanks);
+    const std::size_t bracket = trimmed.find(']');
+    if (trimmed.starts_with('[') && bracket != std::string_view::npos) {
+        line.What = ProfileLine::Is::Section;
+        line.Name = Trimmed(trimmed.substr(1, bracket - 1), Blanks);
+        return;
+    }
+    const std::size_t equals = text.find('=');
+    if (equals == std::string_view::npos || text.starts_with(';')) return;
+    line.What = ProfileLine::Is::Value;
+    line.Name = Trimmed(text.substr(0, equals), Blanks);
+    line.Value = text.substr(equals + 1);
 }
 
 /// Where a key's line stands, or where one would be added.
 struct Place {
-    bool SectionFound = false;
+    std::optional<ProfileLine> Found;
+    bool InSection = false;
     std::size_t AddAt = 0;
-    std::optional<Line> Found;
-    std::string_view Value;
 };
 
 Place Find(std::string_view text, std::string_view section, std::string_view key) {
     Place place;
-    std::size_t at = text.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0;
-    while (const auto line = LineAt(text, at)) {
-        at = line->Next;
-        if (!place.SectionFound) {
-            place.SectionFound = IsHeaderOf(line->Text, section);
-            place.AddAt = line->Next;
+    place.AddAt = text.size();
+    for (const ProfileLine& line : ReadProfileLines(text)) {
+        if (!place.InSection) {
+            place.InSection =
+                line.What == ProfileLine::Is::Section && SameButCase(line.Name, section);
+            if (place.InSection) place.AddAt = line.Next;
             continue;
         }
-        if (IsHeader(line->Text)) break;
-        const std::size_t equals = line->Text.find('=');
-        if (equals != std::string_view::npos &&
-            SameButCase(Trimmed(line->Text.substr(0, equals), Blanks), key)) {
+        if (line.What == ProfileLine::Is::Section) break;
+        if (line.What == ProfileLine::Is::Value && SameButCase(line.Name, key)) {
             place.Found = line;
-            place.Value = line->Text.substr(equals + 1);
             break;
         }
-        if (!line->Text.empty()) place.AddAt = line->Next;
+        if (line.End > line.Start) place.AddAt = line.Next;
     }
     return place;
 }
 
+/// How the first line ends; LF where none has an end.
+std::string_view LineEndOf(std::string_view text) {
+    const std::size_t end = text.find_first_of(LineEnds);
+    if (end == std::string_view::npos) return "\n";
+    return text.substr(end, text.substr(end, 2) == "\r\n" ? 2 : 1);
+}
+
 } // namespace
 
+std::vector<ProfileLine> ReadProfileLines(std::string_view text) {
+    std::vector<ProfileLine> lines;
+    std::size_t at = text.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0;
+    while (at < text.size()) {
+        ProfileLine line;
+        line.Start = at;
+        line.End = std::min(text.find_first_of(LineEnds, at), text.size());
+        const std::size_t end = text.substr(line.End, 2) == "\r\n" ? 2 : 1;
+        line.Next = std::min(line.End + end, text.size());
+        Tell(line, text.substr(line.Start, line.End - line.Start));
+        lines.push_back(line);
+        at = line.Next;
+    }
+    return lines;
+}
+
 std::string ProfileValue(std::string_view text, std::string_view section, std::string_view key) {
-    return std::string(Find(text, section, key).Value);
+    const Place place = Find(text, section, key);
+    return place.Found ? std::string(place.Found->Value) : "";
 }
 
 std::string ProfileWith(std::string_view text, std::string_view section, std::string_view key,
                         std::string_view value) {
     const Place place = Find(text, section, key);
-    const std::size_t firstFeed = text.find('\n');
-    const bool windowsEnds =
-        firstFeed != std::string_view::npos && firstFeed > 0 && text[firstFeed - 1] == '\r';
-    const std::string_view lineEnd = windowsEnds ? "\r\n" : "\n";
     std::string entry(key);
-    entry.append("=").append(value.substr(0, value.find_first_of("\r\n")));
-
+    entry.append("=").append(value.substr(0, value.find_first_of(LineEnds)));
     if (place.Found) {
-        const std::size_t end = place.Found->Start + place.Found->Text.size();
         return std::string(text.substr(0, place.Found->Start))
             .append(entry)
-            .append(text.substr(end));
+            .append(text.substr(place.Found->End));
     }
-    const std::size_t split = place.SectionFound ? place.AddAt : text.size();
-    std::string result(text.substr(0, split));
-    if (!result.empty() && result != ByteOrderMark && !result.ends_with('\n')) result += lineEnd;
-    if (!place.SectionFound) result.append("[").append(section).append("]").append(lineEnd);
-    return result.append(entry).append(lineEnd).append(text.substr(split));
+    const std::string_view lineEnd = LineEndOf(text);
+    std::string result(text.substr(0, place.AddAt));
+    const bool lineIsOpen = !result.empty() && result != ByteOrderMark &&
+                            LineEnds.find(result.back()) == std::string_view::npos;
+    if (lineIsOpen) result += lineEnd;
+    if (!place.InSection) result.append("[").append(section).append("]").append(lineEnd);
+    return result.append(entry).append(lineEnd).append(text.substr(place.AddAt));
 }
 
 } // namespace tumbledeep

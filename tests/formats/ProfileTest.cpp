@@ -12,6 +12,10 @@ TEST(Profile, ValuesAreFoundWithoutRegardToCase) {
     EXPECT_EQ(ProfileValue(text, "other", "LOAD"), "0");
     EXPECT_EQ(ProfileValue(text, "Level", "mode"), "") << "only the first section of a name counts";
     EXPECT_EQ(ProfileValue(text, "Level", "loa"), "");
+    const std::string odd = "a=0\r\t[ Level ] LOAD=0\r[Level\rLOAD=1\r[next] ]\rMODE=2";
+    EXPECT_EQ(ProfileValue(odd, "level", "LOAD"), "1") << "behind a bracket nothing counts";
+    EXPECT_EQ(ProfileValue(odd, "next", "mode"), "2");
+    EXPECT_EQ(ProfileValue("[Level]\n;LOAD=x", "Level", ";LOAD"), "") << "a note is no key";
 }
 
 TEST(Profile, WritesChangeOneLineAlone) {
@@ -27,6 +31,8 @@ TEST(Profile, WritesChangeOneLineAlone) {
           {"; mine\n[B]\nX=1", "; mine\n[B]\nX=1\n[Level]\nLOAD=new\n"},
           {"[Level]\n;LOAD=old\nLOAD\n", "[Level]\n;LOAD=old\nLOAD\nLOAD=new\n"},
           {"[Level]\nLOAD=1\nLOAD=2\n[Level]\n", "[Level]\nLOAD=new\nLOAD=2\n[Level]\n"},
+          {"[Level]\rLOAD=old\r\r[B]\r", "[Level]\rLOAD=new\r\r[B]\r"},
+          {"[Level] x\rA=1", "[Level] x\rA=1\rLOAD=new\r"},
           {"\xEF\xBB\xBF[Level]\nLOAD=old\n", "\xEF\xBB\xBF[Level]\nLOAD=new\n"}}) {
         EXPECT_EQ(ProfileWith(before, "Level", "LOAD", "new"), after);
         EXPECT_EQ(ProfileValue(after, "Level", "load"), "new");
