@@ -44,6 +44,24 @@ TEST(View, SmallMapIsSizedByWallsAndDirtAndGlidesFromItsCentredPlace) {
     EXPECT_NEAR(scene.Board.Form.Top, 5760 - 360 - 2 * 360, 1);
 }
 
+TEST(View, BoardThatDoesNotFitIsLaidAtTheEdgeNearWhichThePlayerStarts) {
+    // Place of the player and size of the board along both axes; Left and Top in a parent of 15360
+    // by 11520: at the near edge, in the middle, at the far edge, and with both edges near.
+    using Case = std::tuple<int, int, float, float>;
+    for (const auto& [you, cells, left, top] :
+         {Case{0, 100, 180, 180}, Case{16 * 360, 100, 180, 0}, Case{21 * 360, 100, 180, -1800},
+          Case{50 * 360, 100, 7680 - 18000, 5760 - 18000},
+          Case{98 * 360, 100, 15360 - 36015 - 540, 11520 - 1080 - 36015 - 180},
+          Case{20 * 360, 41, 15360 - 14775 - 540, -1440},
+          Case{15 * 360, 30, 2272.5F, 11520 - 1080 - 10815 - 180}}) {
+        const std::string end = " " + std::to_string((cells - 1) * 360);
+        const std::string start = " " + std::to_string(you);
+        const Game scene("you" + start + start + "\nharddirt" + end + end + "\ngem1type 0 0\n");
+        EXPECT_EQ(scene.Board.Form.Left, left) << you;
+        EXPECT_EQ(scene.Board.Form.Top, top) << you;
+    }
+}
+
 TEST(View, EdgeFlipsByAPageAtStrictThresholds) {
     using Case = std::tuple<float Window::*, float, float>;
     constexpr auto top = &Window::Top;
