@@ -1,6 +1,7 @@
 // When no answer is left, questions get No and other dialogs are cancelled.
 #include "headless/ScriptedPlatform.h"
 
+#include "base/Failure.h"
 #include "formats/ProgramPath.h"
 #include "host/HostFiles.h"
 
@@ -34,13 +35,13 @@ std::string ScriptedPlatform::Quoted(std::string_view text) const {
     return quoted + '"';
 }
 
-std::optional<ScriptAnswer> ScriptedPlatform::NextAnswer(const char* dialog,
+std::optional<ScriptAnswer> ScriptedPlatform::NextAnswer(const std::string& dialog,
                                                          bool (*fits)(ScriptAnswer::To kind)) {
     if (script.Answers.empty()) return std::nullopt;
     ScriptAnswer answer = script.Answers.front();
     script.Answers.pop_front();
     if (!fits(answer.Kind)) {
-        throw script.Fault(answer.Line, std::string("the answer does not fit ") + dialog);
+        throw script.Fault(answer.Line, "the answer does not fit " + dialog);
     }
     return answer;
 }
@@ -75,7 +76,9 @@ std::string ScriptedPlatform::ChosenPath(std::string path) const {
 
 std::string ScriptedPlatform::ShowOpen(const OpenDialog& dialog) {
     using To = ScriptAnswer::To;
-    const auto answer = NextAnswer("an open dialog",
+    // Without this a script would be blamed for a map that is not there.
+    const std::string why = missing.empty() ? "" : ", which asks because there is no " + missing;
+    const auto answer = NextAnswer("an open dialog" + why,
                                    [](To kind) { return kind == To::File || kind == To::Cancel; });
     std::string chosen;
     if (answer && answer->Kind == To::File) chosen = ChosenPath(answer->Text);
@@ -91,7 +94,13 @@ void ScriptedPlatform::Shell(const std::string& commandLine) {
 void ScriptedPlatform::Ending() { out << "end\n"; }
 
 std::string ScriptedPlatform::OpenForInput(const std::string& path) {
-    return ReadFile(FindFile(HostPath(path)));
+    const std::filesystem::path file = FindFile(HostPath(path));
+    try {
+        return ReadFile(file);
+    } catch (const Failure& failure) {
+        if (failure.Number == Failure::FileNotFound) missing = getfilename(path);
+        throw;
+    }
 }
 
 std::string ScriptedPlatform::GetPrivateProfileString(std::string_view section,

@@ -45,12 +45,13 @@ class ScriptedPlatform final : public Platform {
 
   private:
     /// The next answer if there is one; throws ScriptFault unless `fits` takes it.
-    std::optional<ScriptAnswer> NextAnswer(const char* dialog, bool (*fits)(ScriptAnswer::To kind));
+    std::optional<ScriptAnswer> NextAnswer(const std::string& dialog, bool (*fits)(ScriptAnswer::To kind));
     std::string ChosenPath(std::string path) const;
 
     ScriptedRun run;
     Script& script;
     std::ostream& out;
+    std::string missing; ///< the file that was last looked for in vain
 };
 
 } // namespace tumbledeep

@@ -36,6 +36,7 @@ struct Call {
 constexpr std::string_view Usage =
     "usage: tumbledeep-trace [--dir DIR] [--seed N] [--script FILE] [--steps N] [--parent WxH]\n"
     "                        [--quiet] [ARGUMENT]\n"
+    "       tumbledeep-trace --help | --version\n"
     "\n"
     "  --dir DIR      the program's directory: maps, lists and Tumbledeep.ini (default: .)\n"
     "  --seed N       what the clock gives when random numbers are seeded (default: 0)\n"
@@ -118,8 +119,8 @@ int main(int argc, char** argv) {
     try {
         const std::span<char* const> words(argv + 1, static_cast<std::size_t>(argc - 1));
         for (const std::string_view word : words) {
-            if (word != "--help") continue;
-            std::cout << Usage;
+            if (word != "--help" && word != "--version") continue;
+            std::cout << (word == "--help" ? Usage : "tumbledeep-trace " TUMBLEDEEP_VERSION "\n");
             return 0;
         }
         std::ios::sync_with_stdio(false);

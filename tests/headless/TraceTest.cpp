@@ -16,6 +16,7 @@ struct Session {
         Folder.Write("m.TBM", "title a\"b\\c\td\nyou 0 0\ndirt 0 360\n");
         Folder.Write("Tumbledeep.ini", "[Level]\nLOAD=m.TBM\n[AutoMove]\nMOVE=False\nMODE=2\n");
         Folder.Write("good", "at 2 type d\n");
+        Folder.Write("yes", "answer yes\n");
         Folder.Write("bad", "at 1 type d\nat 1 leap\n");
     }
     int Call(const std::string& words) {
@@ -125,6 +126,10 @@ TEST(TraceProgram, CallsEndWithTheirStatus) {
           Case{"--steps 2 --script good", 0, "var YouCol 2\n"},
           Case{"--steps 2 --script - < good", 0, "var YouCol 2\n"},
           Case{"--seed 4294967295 --parent 900x900 m.TBM", 0, "\nend\n"},
+          Case{"--version", 0, "tumbledeep-trace 1."},
+          Case{"--script yes gone.TBM", 2,
+               "yes:1: the answer does not fit an open dialog, which "
+               "asks because there is no gone.TBM\n"},
           Case{"--script bad", 2, "bad:2: "}, Case{"--script none", 2, "none: "},
           Case{"--dir none", 2, "none: "}, Case{"--steps -1", 2, "--steps"},
           Case{"--seed", 2, "--seed"}, Case{"--seed 4294967296", 2, "--seed"},
