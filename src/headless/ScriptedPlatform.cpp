@@ -77,7 +77,8 @@ std::string ScriptedPlatform::ChosenPath(std::string path) const {
 std::string ScriptedPlatform::ShowOpen(const OpenDialog& dialog) {
     using To = ScriptAnswer::To;
     // Without this a script would be blamed for a map that is not there.
-    const std::string why = missing.empty() ? "" : ", which asks because there is no " + missing;
+    const std::string why =
+        missing.empty() ? "" : ", which asks because there is no " + Quoted(missing);
     const auto answer = NextAnswer("an open dialog" + why,
                                    [](To kind) { return kind == To::File || kind == To::Cancel; });
     std::string chosen;

@@ -16,7 +16,8 @@ namespace tumbledeep {
 namespace fs = std::filesystem;
 
 fs::path HostPath(std::string_view programPath) {
-    const bool fromRoot = programPath.starts_with(HostDrive);
+    // A drive is the same drive in small letters.
+    const bool fromRoot = SameButCase(programPath.substr(0, HostDrive.size()), HostDrive);
     if (HasDrive(programPath) && !fromRoot) return {};
     std::string path(fromRoot ? programPath.substr(HostDrive.size()) : programPath);
     std::replace(path.begin(), path.end(), '\\', '/');

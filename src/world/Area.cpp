@@ -14,9 +14,8 @@ void AreaGrid::Grow(Cell cell) {
     const unsigned newCols = fit(cols, cell.Col);
     const unsigned newRows = fit(rows, cell.Row);
     std::vector<Kind> grown(std::size_t{newCols} * newRows, Kind::Empty);
-    for (unsigned row = 0; row < rows; ++row) {
-        const auto from = cells.begin() + static_cast<std::ptrdiff_t>(row * cols);
-        std::copy(from, from + cols, grown.begin() + static_cast<std::ptrdiff_t>(row * newCols));
+    for (std::size_t row = 0; row < rows; ++row) {
+        std::copy_n(cells.data() + row * cols, cols, grown.data() + row * newCols);
     }
     cells = std::move(grown);
     cols = newCols;

@@ -129,7 +129,7 @@ TEST(TraceProgram, CallsEndWithTheirStatus) {
           Case{"--version", 0, "tumbledeep-trace 1."},
           Case{"--script yes gone.TBM", 2,
                "yes:1: the answer does not fit an open dialog, which "
-               "asks because there is no gone.TBM\n"},
+               "asks because there is no \"gone.TBM\"\n"},
           Case{"--script bad", 2, "bad:2: "}, Case{"--script none", 2, "none: "},
           Case{"--dir none", 2, "none: "}, Case{"--steps -1", 2, "--steps"},
           Case{"--seed", 2, "--seed"}, Case{"--seed 4294967296", 2, "--seed"},

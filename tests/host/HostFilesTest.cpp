@@ -13,6 +13,7 @@ namespace fs = std::filesystem;
 TEST(HostFiles, PathsBothWays) {
     EXPECT_EQ(HostPath("Z:\\games\\\\a.TBM"), "/games/a.TBM");
     EXPECT_EQ(HostPath("Z:\\games\\..\\a.TBM"), "/a.TBM");
+    EXPECT_EQ(HostPath("z:/games/a.TBM"), "/games/a.TBM");
     EXPECT_EQ(HostPath("sub\\a.TBM"), "sub/a.TBM");
     EXPECT_EQ(HostPath("/host/a.TBM"), "/host/a.TBM");
     EXPECT_THROW(ReadFile(FindFile(HostPath("C:\\games\\a.TBM"))), Failure);
