@@ -4,7 +4,6 @@ import mmap
 import os
 import pathlib
 import re
-import shutil
 import signal
 import struct
 import subprocess
@@ -22,38 +21,38 @@ DIRT = (192, 192, 192)
 YOU = (255, 192, 192)
 DESKTOP = (32, 64, 96)  # behind all windows, no colour of the game's
 
+ROOM = ["##########",
+        "#@       #",
+        "#:::::::*#",
+        "##########"]
 
-def wait_until(what, condition, seconds=10.0):
+
+def wait_until(what, condition, seconds=60.0):
     """Returns what the condition gives once it is true; fails with `what` if it never is."""
     end = time.monotonic() + seconds
-    while True:
-        result = condition()
-        if result:
-            return result
+    while not (result := condition()):
         if time.monotonic() > end:
             raise AssertionError("waited in vain for: " + what)
         time.sleep(0.02)
+    return result
 
 
 class Shot:
     """A screenshot; pixels are (red, green, blue)."""
 
-    def __init__(self, width, height, data):
-        self.width, self.height, self.data = width, height, data
+    def __init__(self, width, data):
+        self.width, self.data = width, data
 
-    def at(self, x, y):
-        i = 3 * (y * self.width + x)
-        return tuple(self.data[i:i + 3])
+    def row(self, y, x0, x1):
+        """The bytes of a row from x0 to before x1."""
+        return self.data[3 * (y * self.width + x0):3 * (y * self.width + x1)]
 
-    def row(self, y, x0=0, x1=None):
-        return [self.at(x, y) for x in range(x0, self.width if x1 is None else x1)]
-
-    def find(self, colour):
-        """The first pixel of that colour, by rows."""
-        wanted, at = bytes(colour), -1
+    def find(self, colour, count=1):
+        """Where so many pixels of that colour first stand side by side, by rows; else None."""
+        wanted, at = bytes(colour) * count, -1
         while (at := self.data.find(wanted, at + 1)) >= 0:
             if at % 3 == 0:
-                return (at // 3) % self.width, at // 3 // self.width
+                return at // 3 % self.width, at // 3 // self.width
         return None
 
 
@@ -69,108 +68,89 @@ class FrameBuffer:
 
     def at(self, x, y):
         i = self.start + y * self.line + 4 * x
-        blue, green, red = self.memory[i:i + 3]
-        return red, green, blue
+        return tuple(self.memory[i:i + 3][::-1])
 
     def shot(self):
         raw = self.memory[self.start:self.start + self.line * self.height]
         data = bytearray(3 * self.width * self.height)
         for colour in range(3):
             data[colour::3] = raw[2 - colour::4]
-        return Shot(self.width, self.height, bytes(data))
+        return Shot(self.width, bytes(data))
 
 
 class Screen:
     """An X server of its own, so that tests disturb neither a desktop nor one another."""
 
-    def __init__(self, size="1280x900"):
+    def __init__(self, size):
         read, write = os.pipe()
-        self.memory_dir = tempfile.mkdtemp(prefix="tumbledeep-screen-")
+        self.folder = tempfile.TemporaryDirectory(prefix="tumbledeep-screen-")
+        # It would begin anew whenever its last client goes, and take a starting one's place away.
         self.server = subprocess.Popen(
             ["Xvfb", "-displayfd", str(write), "-screen", "0", size + "x24", "-nolisten", "tcp",
-             "-fbdir", self.memory_dir],
-            pass_fds=[write], stderr=subprocess.DEVNULL)
+             "-noreset", "-fbdir", self.folder.name], pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as number:
-            self.env = dict(os.environ, DISPLAY=":" + number.readline().strip(),
-                            XDG_RUNTIME_DIR=tempfile.gettempdir(), QT_QPA_PLATFORM="xcb",
-                            LC_ALL="C.UTF-8", HOME=tempfile.gettempdir())
-        self.pixels = FrameBuffer(pathlib.Path(self.memory_dir) / "Xvfb_screen0")
-        self.env.pop("WAYLAND_DISPLAY", None)
-        self.env.pop("QT_SCALE_FACTOR", None)
-        self.manager = None
-        wait_until("the window manager", self.is_managed)
+            display = ":" + number.readline().strip()
+        kept = {k: v for k, v in os.environ.items() if not k.startswith(("QT_", "WAYLAND_"))}
+        self.env = dict(kept, DISPLAY=display, QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8",
+                        HOME=self.folder.name, XDG_RUNTIME_DIR=self.folder.name)
+        self.pixels = FrameBuffer(pathlib.Path(self.folder.name) / "Xvfb_screen0")
+        self.manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.env,
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_until("the window manager", lambda: "window id" in self.run(
+            "xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
         self.run("xsetroot", "-solid", "#%02x%02x%02x" % DESKTOP)
         # Out of the picture: the server draws the pointer into its memory.
         self.run("xdotool", "mousemove", *size.split("x"))
-
-    def is_managed(self):
-        if self.manager is None or self.manager.poll() is not None:
-            self.manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.env,
-                                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        return "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
 
     def close(self):
         for process in (self.manager, self.server):
             process.terminate()
             process.wait()
-        shutil.rmtree(self.memory_dir)
+        self.folder.cleanup()
 
     def run(self, *words):
         return subprocess.run(words, env=self.env, stdout=subprocess.PIPE,
                               stderr=subprocess.DEVNULL, check=False).stdout.decode()
 
-    def shot(self):
-        return self.pixels.shot()
-
-    def still_shot(self):
-        """A screenshot of a screen that has come to rest."""
-        last = self.shot()
-        while True:
-            time.sleep(0.1)
-            now = self.shot()
-            if now.data == last.data:
-                return now
-            last = now
+    def hands(self, *words):
+        """What xdotool does with these words, once a window of the game's has the keyboard."""
+        self.wait_for_focus()
+        self.run("xdotool", *words)
 
     def key(self, *keys):
-        self.run("xdotool", "key", *keys)
+        self.hands("key", *keys)
+
+    def shot(self):
+        return self.pixels.shot()
 
     def windows(self, name):
         """The visible windows whose title is exactly that."""
         return self.run("xdotool", "search", "--onlyvisible", "--name", "^" + name + "$").split()
 
-    def place(self, window):
-        """Left, top, width and height of a window, without its frame."""
-        text = self.run("xdotool", "getwindowgeometry", "--shell", window)
-        return [int(re.search(name + r"=(\d+)", text).group(1))
-                for name in ("X", "Y", "WIDTH", "HEIGHT")]
-
     def middle(self, window):
-        left, top, width, height = self.place(window)
-        return left + width // 2, top + height // 2
-
-    def dialogs(self):
-        return self.windows("Tumbledeep")
+        text = self.run("xdotool", "getwindowgeometry", "--shell", window)
+        x, y, width, height = (int(re.search("^%s=(.*)$" % name, text, re.M)[1])
+                               for name in ("X", "Y", "WIDTH", "HEIGHT"))
+        return x + width // 2, y + height // 2
 
     def focused(self, name):
         """The window that has the keyboard if its title is that, else None."""
         window = self.run("xdotool", "getwindowfocus").strip()
         return window if window in self.windows(name) else None
 
-    def wait_for_focus(self):
-        """Until the game, or a dialog of its, has the keyboard."""
-        wait_until("the focus", lambda: self.focused("(Tumble Deep.*|Tumbledeep|Open)"))
+    def wait_for_focus(self, name="(Tumble Deep.*|Tumbledeep|Open)"):
+        return wait_until("the focus", lambda: self.focused(name))
 
     def open_dialog(self):
         """The dialog that is open and has the keyboard."""
-        return wait_until("a dialog", lambda: self.focused("Tumbledeep"))
+        return self.wait_for_focus("Tumbledeep")
 
     def answer(self, *keys):
         """Presses keys in the dialog that is open, and waits until it has gone."""
         dialog = self.open_dialog()
         self.key(*keys)
-        wait_until("the dialog to close", lambda: dialog not in self.dialogs())
+        wait_until("the dialog to close", lambda: dialog not in self.windows("Tumbledeep"))
 
 
 class GameTest(unittest.TestCase):
@@ -181,25 +161,20 @@ class GameTest(unittest.TestCase):
     def setUp(self):
         self.screen = Screen(self.screen_size)
         self.addCleanup(self.screen.close)
-        self.dir = pathlib.Path(tempfile.mkdtemp(prefix="tumbledeep-test-"))
-        self.addCleanup(shutil.rmtree, self.dir)
-        self.first = None
+        self.dir = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
         self.addCleanup(self.kill_games)
-
-    # The game and its successors: their own directory tells them from any other.
+        self.first = None
 
     def pids(self):
-        found = subprocess.run(["pgrep", "-f", "--", "--dir " + str(self.dir)],
-                               stdout=subprocess.PIPE, check=False).stdout.split()
-        alive = []
-        for pid in found:
+        """The game and its successors: their own directory tells them from any other."""
+        found = []
+        for process in pathlib.Path("/proc").glob("[0-9]*"):
             try:
-                state = pathlib.Path("/proc/%d/stat" % int(pid)).read_text().rsplit(")", 1)[1]
+                if bytes(self.dir) in (process / "cmdline").read_bytes():
+                    found.append(int(process.name))
             except OSError:
-                continue
-            if state.split()[0] != "Z":
-                alive.append(int(pid))
-        return alive
+                pass  # it has ended
+        return found
 
     def kill_games(self):
         for pid in self.pids():
@@ -208,72 +183,63 @@ class GameTest(unittest.TestCase):
             self.first.wait()
         wait_until("an empty screen", lambda: not self.screen.windows("Tumble Deep.*"))
 
-    def start(self, *words, **environment):
-        self.first = subprocess.Popen([str(PROGRAM), "--dir", str(self.dir), *words],
+    def start(self, *words, cwd=None, **environment):
+        """Starts the game; returns its window once it or a dialog of its has the keyboard."""
+        self.first = subprocess.Popen([PROGRAM, "--dir", self.dir, *words], cwd=cwd,
                                       env=dict(self.screen.env, **environment),
                                       stderr=subprocess.DEVNULL)
         self.screen.wait_for_focus()
         return self.screen.windows("Tumble Deep.*")[0]
 
+    def begin(self, rows, *words, mode=None, **environment):
+        """Starts the game on that map; returns its window once the player can be seen."""
+        self.write_map("M.TBM", rows)
+        self.write_settings("M.TBM", str(mode is not None), mode or 2)
+        window = self.start(*words, **environment)
+        wait_until("the player", lambda: self.screen.shot().find(YOU))
+        return window
+
     def wait_for_end(self):
         wait_until("the end of the process", lambda: not self.pids())
-        self.first.wait()
+        self.assertEqual(0, self.first.wait())
 
     def wait_for_successor(self, old):
         """The process that follows, alone on the screen."""
-        def alone():
-            now = self.pids()
-            return now if len(now) == 1 and now != old else None
-        pid = wait_until("the next process", alone)
+        wait_until("the next process", lambda: len(self.pids()) == 1 and self.pids() != old)
         self.screen.wait_for_focus()
-        return pid
+        return self.pids()[0]
 
-    # Maps and settings.
-
-    def write_map(self, name, rows, extra=""):
+    def write_map(self, name, rows):
         """A map from a picture: # wall, : dirt, O rock, * gem, @ player."""
         words = {"#": "harddirt", ":": "dirt", "O": "roundrock", "*": "gem1type", "@": "you"}
         lines = ["%s %d %d" % (words[c], row * 360, col * 360)
                  for row, text in enumerate(rows) for col, c in enumerate(text) if c in words]
-        (self.dir / name).write_text("\n".join(lines) + "\n" + extra)
+        (self.dir / name).write_text("\n".join(lines) + "\n")
 
     def write_settings(self, load, move="False", mode=2):
         (self.dir / "Tumbledeep.ini").write_text(
             "[Level]\nLOAD=%s\n[AutoMove]\nMOVE=%s\nMODE=%s\n" % (load, move, mode))
 
     def setting(self, key):
-        text = (self.dir / "Tumbledeep.ini").read_text()
-        found = re.search("^" + key + "=(.*)$", text, re.M)
-        return found.group(1) if found else None
-
-    # What the board shows.
+        found = re.search("^" + key + "=(.*)$", (self.dir / "Tumbledeep.ini").read_text(), re.M)
+        return found[1] if found else None
 
     def board(self, shot=None):
-        """Where the board's top left wall begins on the screen."""
-        shot = shot or self.screen.shot()
-        window = self.screen.windows("Tumble Deep.*")[0]
-        left, top, width, height = self.screen.place(window)
-        run = bytes(WALL) * CELL
-        for y in range(top + 30, min(top + height, shot.height)):
-            start = 3 * (y * shot.width + left)
-            line = shot.data[start:start + 3 * width]
-            at = line.find(run)
-            if at >= 0 and at % 3 == 0 and all(
-                    shot.at(left + at // 3, y + d) == WALL for d in range(CELL)):
-                return left + at // 3, y
-        return None
+        """Where the board's top wall begins on the screen."""
+        return (shot or self.screen.shot()).find(WALL, 6 * CELL)
 
-    def cell_colour(self, board, col, row, shot):
-        """The colour in the middle of a cell; columns and rows from 0."""
-        return shot.at(board[0] + col * CELL + CELL // 2, board[1] + row * CELL + CELL // 2)
-
-    def you(self, shot=None):
-        """The player's cell, as seen on a board whose top left wall can be seen."""
-        shot = shot or self.screen.shot()
+    def you(self):
+        """The player's column and row, as seen on a board whose top wall can be seen."""
+        shot = self.screen.shot()
         board, spot = self.board(shot), shot.find(YOU)
-        if not board or not spot:
-            return None
-        return (spot[0] - board[0]) // CELL, (spot[1] + 2 - board[1]) // CELL
+        return board and spot and ((spot[0] - board[0]) // CELL, (spot[1] + 2 - board[1]) // CELL)
 
-    def wait_for_you(self, cell):
+    def wait_for_you(self, *cell):
         wait_until("the player at %s" % (cell,), lambda: self.you() == cell)
+
+    def walk(self, keys):
+        """Steps by letters, each once the last has been seen."""
+        for key in keys:
+            before = self.you()
+            self.screen.key(key)
+            wait_until("a step by " + key, lambda: self.you() != before)
