@@ -7,7 +7,6 @@ import screen
 UNDER_A_ROCK = ["#######",
                 "#  O  #",
                 "#  :  #",
-                "#     #",
                 "#@   *#",
                 "#######"]
 
@@ -17,8 +16,8 @@ class Ends(screen.GameTest):
         self.begin(UNDER_A_ROCK)
         first = self.pids()
         for answer in ("Return", "Escape"):
-            self.wait_for_you(1, 4)
-            self.walk("ddww")
+            self.wait_for_you(1, 3)
+            self.walk("ddw")
             self.screen.key("s")              # away from under the rock
             self.screen.answer("Return")      # You died
             self.screen.answer(answer)        # play again?
@@ -30,11 +29,10 @@ class Ends(screen.GameTest):
         self.begin(screen.ROOM)
         self.screen.key("alt+F4")
         self.wait_for_end()
-        for settings in ("[AutoMove]\nMOVE=False\n", ""):
+        for title, settings in (("Tumble Deep.*", "[AutoMove]\nMOVE=False\n"), ("Tumbledeep", "")):
             (self.dir / "Tumbledeep.ini").write_text("[Level]\nLOAD=M.TBM\n" + settings)
             self.start()
-            if not settings:
-                self.screen.open_dialog()     # move automatically?
+            self.screen.wait_for_focus(title)
             self.first.send_signal(signal.SIGTERM)
             self.wait_for_end()
         self.assertIsNone(self.setting("MOVE"))

@@ -1,6 +1,5 @@
 """The very first start: the shipped list plays at once, and a won map leads to the next."""
 
-import re
 import shutil
 
 import screen
@@ -19,13 +18,13 @@ class FirstStart(screen.GameTest):
         self.assertEqual(["True", "2", "Default"],
                          [self.setting(key) for key in ("MOVE", "MODE", "MAPLIST")])
         solution = (screen.LEVELS / "solutions" / (maps[0] + ".txt")).read_text()
-        self.walk(re.findall(r"^at \d+ type (\w)$", solution, re.M))
+        self.walk(line.split()[3] for line in solution.splitlines() if line.startswith("at "))
         self.screen.answer("Return")          # You won
         self.screen.answer("Return")          # the next level? Yes
         self.wait_for_successor(first)
         self.assertEqual(maps[1] + ".TBM", self.setting("LOAD"))
         self.screen.answer("Return")          # its title
-        screen.wait_until("the second map's board", lambda: self.screen.shot().find(screen.YOU))
+        screen.wait_until("the second map's board", self.spot)
 
     def test_a_settings_file_that_is_there_is_left_as_it_is(self):
         ini = self.dir / "Tumbledeep.ini"

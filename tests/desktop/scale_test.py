@@ -8,13 +8,12 @@ class Scale(screen.GameTest):
         """A pixel of the game covers `pixel` device pixels a side."""
         cell, width = screen.CELL * pixel, (10 * screen.CELL + 1) * pixel
         # The top wall is one black line without a seam.
-        x, y = screen.wait_until("the board", lambda: self.screen.shot().find(screen.WALL, width))
-        shot = self.screen.shot()
+        x, y = screen.wait_until("the board", lambda: self.board(length=width))
+        shot = self.screen.pixels.shot()
         for beyond in (x - 1, x + width):
             self.assertNotEqual(bytes(screen.WALL), shot.row(y, beyond, beyond + 1))
         # Dirt: one even colour, from the pixel behind the wall to the one before the gem.
-        dirt = 7 * cell - pixel
-        self.assertEqual(bytes(screen.DIRT) * dirt,
+        self.assertEqual(bytes(screen.DIRT) * (7 * cell - pixel),
                          shot.row(y + 5 * cell // 2, x + cell + pixel, x + 8 * cell))
         # Every device pixel of a block is the same, in the player's outline too.
         for row in range(y, y + 4 * cell, pixel):

@@ -4,7 +4,6 @@ import mmap
 import os
 import pathlib
 import re
-import signal
 import struct
 import subprocess
 import tempfile
@@ -95,11 +94,12 @@ class Screen:
         self.env = dict(kept, DISPLAY=display, QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8",
                         HOME=self.folder.name, XDG_RUNTIME_DIR=self.folder.name)
         self.pixels = FrameBuffer(pathlib.Path(self.folder.name) / "Xvfb_screen0")
-        self.manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.env,
-                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.env)
         wait_until("the window manager", lambda: "window id" in self.run(
             "xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
         self.run("xsetroot", "-solid", "#%02x%02x%02x" % DESKTOP)
+        # Without the server's repeat, only the game's own polling can move a held key on.
+        self.run("xset", "r", "off")
         # Out of the picture: the server draws the pointer into its memory.
         self.run("xdotool", "mousemove", *size.split("x"))
 
@@ -121,29 +121,21 @@ class Screen:
     def key(self, *keys):
         self.hands("key", *keys)
 
-    def shot(self):
-        return self.pixels.shot()
-
     def windows(self, name):
         """The visible windows whose title is exactly that."""
         return self.run("xdotool", "search", "--onlyvisible", "--name", "^" + name + "$").split()
 
     def middle(self, window):
         text = self.run("xdotool", "getwindowgeometry", "--shell", window)
-        x, y, width, height = (int(re.search("^%s=(.*)$" % name, text, re.M)[1])
-                               for name in ("X", "Y", "WIDTH", "HEIGHT"))
+        x, y, width, height = map(int, re.findall(r"=(.*)", text)[1:5])
         return x + width // 2, y + height // 2
 
-    def focused(self, name):
-        """The window that has the keyboard if its title is that, else None."""
-        window = self.run("xdotool", "getwindowfocus").strip()
-        return window if window in self.windows(name) else None
-
     def wait_for_focus(self, name="(Tumble Deep.*|Tumbledeep|Open)"):
-        return wait_until("the focus", lambda: self.focused(name))
+        """The window of that title that has the keyboard."""
+        return wait_until("the focus", lambda: {
+            self.run("xdotool", "getwindowfocus").strip()}.intersection(self.windows(name))).pop()
 
     def open_dialog(self):
-        """The dialog that is open and has the keyboard."""
         return self.wait_for_focus("Tumbledeep")
 
     def answer(self, *keys):
@@ -167,18 +159,10 @@ class GameTest(unittest.TestCase):
 
     def pids(self):
         """The game and its successors: their own directory tells them from any other."""
-        found = []
-        for process in pathlib.Path("/proc").glob("[0-9]*"):
-            try:
-                if bytes(self.dir) in (process / "cmdline").read_bytes():
-                    found.append(int(process.name))
-            except OSError:
-                pass  # it has ended
-        return found
+        return [int(pid) for pid in self.screen.run("pgrep", "-f", str(self.dir)).split()]
 
     def kill_games(self):
-        for pid in self.pids():
-            os.kill(pid, signal.SIGKILL)
+        self.screen.run("kill", "-9", *map(str, self.pids()))
         if self.first:
             self.first.wait()
         wait_until("an empty screen", lambda: not self.screen.windows("Tumble Deep.*"))
@@ -186,8 +170,7 @@ class GameTest(unittest.TestCase):
     def start(self, *words, cwd=None, **environment):
         """Starts the game; returns its window once it or a dialog of its has the keyboard."""
         self.first = subprocess.Popen([PROGRAM, "--dir", self.dir, *words], cwd=cwd,
-                                      env=dict(self.screen.env, **environment),
-                                      stderr=subprocess.DEVNULL)
+                                      env=dict(self.screen.env, **environment))
         self.screen.wait_for_focus()
         return self.screen.windows("Tumble Deep.*")[0]
 
@@ -196,18 +179,18 @@ class GameTest(unittest.TestCase):
         self.write_map("M.TBM", rows)
         self.write_settings("M.TBM", str(mode is not None), mode or 2)
         window = self.start(*words, **environment)
-        wait_until("the player", lambda: self.screen.shot().find(YOU))
+        wait_until("the player", self.spot)
         return window
 
     def wait_for_end(self):
         wait_until("the end of the process", lambda: not self.pids())
         self.assertEqual(0, self.first.wait())
 
-    def wait_for_successor(self, old):
-        """The process that follows, alone on the screen."""
-        wait_until("the next process", lambda: len(self.pids()) == 1 and self.pids() != old)
+    def wait_for_successor(self, old, meanwhile=lambda: None):
+        """Until the process that follows is alone on the screen."""
+        wait_until("the next process",
+                   lambda: meanwhile() or len(now := self.pids()) == 1 and now != old)
         self.screen.wait_for_focus()
-        return self.pids()[0]
 
     def write_map(self, name, rows):
         """A map from a picture: # wall, : dirt, O rock, * gem, @ player."""
@@ -224,13 +207,16 @@ class GameTest(unittest.TestCase):
         found = re.search("^" + key + "=(.*)$", (self.dir / "Tumbledeep.ini").read_text(), re.M)
         return found[1] if found else None
 
-    def board(self, shot=None):
+    def spot(self):
+        return self.screen.pixels.shot().find(YOU)
+
+    def board(self, shot=None, length=6 * CELL):
         """Where the board's top wall begins on the screen."""
-        return (shot or self.screen.shot()).find(WALL, 6 * CELL)
+        return (shot or self.screen.pixels.shot()).find(WALL, length)
 
     def you(self):
         """The player's column and row, as seen on a board whose top wall can be seen."""
-        shot = self.screen.shot()
+        shot = self.screen.pixels.shot()
         board, spot = self.board(shot), shot.find(YOU)
         return board and spot and ((spot[0] - board[0]) // CELL, (spot[1] + 2 - board[1]) // CELL)
 

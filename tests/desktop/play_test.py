@@ -1,4 +1,4 @@
-"""The two roads of the keys, and the pauses."""
+"""The two roads of the keys, the pauses, the drag, and the view that glides after the player."""
 
 import time
 
@@ -6,22 +6,19 @@ import screen
 
 CORRIDOR = ["#" * 38, "#@" + " " * 35 + "#", "#" + " " * 36 + "#",
             "#" + " " * 17 + "*" + " " * 18 + "#", "#" * 38]
+SIZE = 301
+FLOOR = "#" + " " * (SIZE - 2) + "#"
 HELD_RIGHT = ("keydown", "Right", "sleep", "0.4", "keyup", "Right")
 
 
-class Keys(screen.GameTest):
-    def setUp(self):
-        super().setUp()
-        # Without the server's repeat, only the game's own polling can move a held key on.
-        self.screen.run("xset", "r", "off")
-        self.begin(CORRIDOR)
-
+class Play(screen.GameTest):
     def click(self, col, row):
         x, y = self.board()
         self.screen.hands("mousemove", str(int(x + col * screen.CELL)),
                           str(int(y + row * screen.CELL)), "click", "1")
 
     def test_letters_step_once_and_arrows_while_they_are_held(self):
+        self.begin(CORRIDOR)
         self.screen.hands("keydown", "d")
         self.wait_for_you(2, 1)
         time.sleep(0.5)
@@ -36,6 +33,7 @@ class Keys(screen.GameTest):
         self.assertEqual(stopped, self.you())
 
     def test_p_and_a_click_pause(self):
+        self.begin(CORRIDOR)
         self.screen.key("p")
         self.screen.hands(*HELD_RIGHT, "key", "d")
         self.assertEqual((1, 1), self.you(), "after p neither arrows nor letters step")
@@ -57,3 +55,25 @@ class Keys(screen.GameTest):
         self.click(18.5, 3.5)
         self.screen.hands(*HELD_RIGHT)
         screen.wait_until("steps after a press on a picture", lambda: self.you()[0] > 4)
+
+    def test_a_drag_moves_the_board_and_stops_the_clock(self):
+        self.begin(screen.ROOM)
+        left, top = self.board()
+        x, y = left + 5 * screen.CELL, top + 2 * screen.CELL
+        self.screen.hands("mousemove", str(x), str(y), "mousedown", "1",
+                          *["mousemove_relative", "12", "6", "sleep", "0.05"] * 5, "mouseup", "1")
+        screen.wait_until("the board to follow", lambda: self.board() == (left + 60, top + 30))
+        self.screen.hands(*HELD_RIGHT)
+        self.assertEqual((1, 1), self.you(), "the press has stopped the clock")
+
+    def test_the_glide_keeps_who_runs_near_the_middle(self):
+        rows = ["#" * SIZE, *[FLOOR] * (SIZE - 2), "#" * SIZE]
+        # In the board's middle; the wall above tells how far the player has come.
+        for row, text in ((145, "######"), (150, "@"), (299, "*")):
+            rows[row] = FLOOR[:150] + text + FLOOR[150 + len(text):]
+        window = self.begin(rows, mode=2)
+        self.screen.hands("keydown", "Right")
+        screen.wait_until("a run", lambda: (self.you() or (0,))[0] >= 12)
+        self.screen.hands("keyup", "Right")
+        screen.wait_until("the view to follow", lambda: abs(
+            self.spot()[0] - self.screen.middle(window)[0]) < 3 * screen.CELL)
