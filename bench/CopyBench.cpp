@@ -11,7 +11,7 @@ namespace tumbledeep {
 namespace {
 
 void MakeCopy(benchmark::State& state, const Board& board) {
-    for (auto copy : state) {
+    for ([[maybe_unused]] auto copy : state) {
         const Board made(board);
         benchmark::DoNotOptimize(&made);
     }
@@ -19,14 +19,14 @@ void MakeCopy(benchmark::State& state, const Board& board) {
 
 void AssignCopy(benchmark::State& state, const Board& board) {
     Board target;
-    for (auto copy : state) {
+    for ([[maybe_unused]] auto copy : state) {
         target = board;
         benchmark::DoNotOptimize(&target);
     }
 }
 
 void HashBoard(benchmark::State& state, const Board& board) {
-    for (auto hash : state) benchmark::DoNotOptimize(board.HashValue());
+    for ([[maybe_unused]] auto hash : state) benchmark::DoNotOptimize(board.HashValue());
 }
 
 void RegisterFor(const std::string& name, const std::string& map) {

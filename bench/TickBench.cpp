@@ -23,7 +23,7 @@ void CountTicks(benchmark::State& state, double ticks) {
 /// Plays whole cycles of one board.
 void PlayCycles(benchmark::State& state, const std::string& map) {
     Board board = LoadMap(map + Endless, 1);
-    for (auto cycle : state) {
+    for ([[maybe_unused]] auto cycle : state) {
         for (int tick = 0; tick < Cycle; ++tick) board.Tick({});
     }
     CountTicks(state, static_cast<double>(state.iterations()) * Cycle);
@@ -69,7 +69,7 @@ void ChainOf5000Mines(benchmark::State& state) {
     Board start = LoadMap(map + Endless, 1);
     start.SpawnObject(Kind::Bang, 360, 360, Heading::Down);
     int ticks = 0;
-    for (auto chain : state) {
+    for ([[maybe_unused]] auto chain : state) {
         Board board = start;
         const Pool& bangs = board.Pools[Kind::Bang];
         do {
