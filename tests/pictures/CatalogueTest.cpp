@@ -69,21 +69,14 @@ TEST(Catalogue, StarsKeepToTheirColoursAndPatrolsAloneShowTheirHeading) {
     }
 }
 
-TEST(Catalogue, EveryPictureIsDrawnAndNoTwoMembersAlike) {
+TEST(Catalogue, EveryPictureIsDrawnAndNoTwoGemsOrRocksAlike) {
+    const Bitmap white;
     for (int i = 1; i < PictureCount; ++i) {
-        EXPECT_NE(Look(static_cast<Picture>(i)), Bitmap{}) << PictureName(static_cast<Picture>(i));
-    }
-    for (const auto& [pool, count] :
-         {std::pair{GemTypePic, GemTypePicCount}, {RoundRockPic, RoundRockPicCount}}) {
-        for (int i = 1; i < count; ++i) {
-            EXPECT_NE(Look(Member(pool, i)), Look(Member(pool, i - 1))) << i;
+        const auto picture = static_cast<Picture>(i);
+        EXPECT_NE(Look(picture), white) << PictureName(picture);
+        for (int other = static_cast<int>(GemTypePic); other < i; ++other) {
+            EXPECT_NE(Look(picture), Look(static_cast<Picture>(other))) << PictureName(picture);
         }
-    }
-    const std::map<Picture, Colour> middles{
-        {GemTypePic, {0, 0, 0}}, {Member(GemTypePic, 3), {255, 255, 255}}, {Bang, {255, 255, 0}}};
-    for (const auto& [picture, colour] : middles) {
-        EXPECT_EQ(Look(picture).At(Bitmap::Size / 2, Bitmap::Size / 2), colour)
-            << PictureName(picture);
     }
 }
 

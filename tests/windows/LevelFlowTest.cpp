@@ -66,18 +66,6 @@ TEST(Level, DeathTellsTheLastRecountAndTriesAgain) {
     }
 }
 
-TEST(Level, StatusBarShowsTheRecountEveryThirtyTicks) {
-    Running scene;
-    EXPECT_EQ(scene.Main.Info.Panel, "Gems Remaining:");
-    scene.Ticks(29);
-    EXPECT_EQ(scene.Main.Info.Panel, "Gems Remaining:");
-    scene.Ticks(1);
-    EXPECT_EQ(scene.Main.Info.Panel, "Gems Remaining:  1");
-    scene.Board.GemTotal = 0;
-    scene.Ticks(30);
-    EXPECT_EQ(scene.Main.Info.Panel, "Gems Remaining: -1");
-}
-
 TEST(Menu, EntriesWriteTheirSettingsAndStartAnew) {
     using Case = std::tuple<const char*, Answers, std::string>;
     const std::string openMap = "open .; Open; Tumbledeep map (*.TBM)|*.TBM";

@@ -31,19 +31,6 @@ TEST(View, GlideClosesATenthOfTheGapOrTwice) {
     }
 }
 
-TEST(View, SmallMapIsSizedByWallsAndDirtAndGlidesFromItsCentredPlace) {
-    Game scene("you 720 1080\nharddirt 720 360\ndirt 360 360\ngem1type 0 1800\nroundrock 1080 0\n");
-    EXPECT_EQ(scene.Board.Form.Width, 735);
-    EXPECT_EQ(scene.Board.Form.Height, 1095);
-    scene.Ticks(5);
-    EXPECT_EQ(scene.Board.Form.Left, 7680 - 367.5F);
-    EXPECT_EQ(scene.Board.Form.Top, 5760 - 547.5F - 720) << "switched off";
-    scene.Board.AutoMoveOn = true;
-    scene.Ticks(200);
-    EXPECT_NEAR(scene.Board.Form.Left, 7680 - 360 - 3 * 360, 1);
-    EXPECT_NEAR(scene.Board.Form.Top, 5760 - 360 - 2 * 360, 1);
-}
-
 TEST(View, BoardThatDoesNotFitIsLaidAtTheEdgeNearWhichThePlayerStarts) {
     // Place of the player and size of the board along both axes; Left and Top in a parent of 15360
     // by 11520: at the near edge, in the middle, at the far edge, and with both edges near.
