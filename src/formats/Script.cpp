@@ -3,6 +3,7 @@
 
 #include "base/Number.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tumbledeep {
@@ -19,6 +20,9 @@ std::string_view TakeWord(std::string_view& rest) {
     rest.remove_prefix(blank == std::string_view::npos ? rest.size() : blank + 1);
     return word;
 }
+
+using Do = PlayerAct::Do;
+using To = ScriptAnswer::To;
 
 /// Reads the lines of one script.
 class Reader {
@@ -37,27 +41,42 @@ class Reader {
     }
 
   private:
+    /// A word that says what a player does, and how the words behind it are read.
+    struct Verb {
+        std::string_view Word;
+        Do What;
+        void (Reader::*Read)(PlayerAct& act, std::string_view rest) const;
+    };
+    static const std::array<Verb, 9> Verbs;
+
+    /// A word that says what a dialog is answered.
+    struct AnswerWord {
+        std::string_view Word;
+        To What;
+        bool TakesText;
+    };
+    static constexpr std::array<AnswerWord, 5> AnswerWords{{{"yes", To::Yes, false},
+                                                            {"no", To::No, false},
+                                                            {"cancel", To::Cancel, false},
+                                                            {"text", To::Text, true},
+                                                            {"file", To::File, true}}};
+
     [[noreturn]] void Fail(const std::string& what) const { throw script.Fault(line, what); }
 
-    void Answer(std::string_view rest) {
-        using To = ScriptAnswer::To;
-        const std::string_view word = TakeWord(rest);
-        if (word == "text") return AddAnswer(To::Text, rest);
-        if (word == "file") {
-            if (rest.empty()) Fail("\"answer file\" needs a path");
-            return AddAnswer(To::File, rest);
-        }
-        const To plain = word == "yes"      ? To::Yes
-                         : word == "no"     ? To::No
-                         : word == "cancel" ? To::Cancel
-                                            : To::Text;
-        if (plain == To::Text) Fail("an answer is yes, no, text, file or cancel");
-        if (!rest.empty()) Fail("words are left over");
-        AddAnswer(plain, "");
+    template <class Table>
+    auto& Named(const Table& table, std::string_view word, const char* fault) const {
+        const auto found = std::find_if(table.begin(), table.end(),
+                                        [word](const auto& row) { return row.Word == word; });
+        if (found == table.end()) Fail(fault);
+        return *found;
     }
 
-    void AddAnswer(ScriptAnswer::To kind, std::string_view text) {
-        script.Answers.push_back({kind, std::string(text), line});
+    void Answer(std::string_view rest) {
+        const AnswerWord& answer =
+            Named(AnswerWords, TakeWord(rest), "an answer is yes, no, text, file or cancel");
+        if (!answer.TakesText) NoMore(rest);
+        if (answer.What == To::File && rest.empty()) Fail("\"answer file\" needs a path");
+        script.Answers.push_back({answer.What, std::string(rest), line});
     }
 
     void Event(std::string_view rest) {
@@ -66,61 +85,65 @@ class Reader {
         if (!script.Events.empty() && *step < script.Events.back().Step) {
             Fail("steps stand in rising order");
         }
-        ScriptEvent event{*step, {}, line};
-        Action(event.Act, TakeWord(rest), rest);
+        const Verb& verb = Named(Verbs, TakeWord(rest),
+                                 "an event is type, press, release, click, drag, gotfocus, "
+                                 "lostfocus, menu or resize");
+        ScriptEvent event{*step, {verb.What}, line};
+        (this->*verb.Read)(event.Act, rest);
         script.Events.push_back(std::move(event));
     }
 
-    void Action(PlayerAct& act, std::string_view word, std::string_view rest) {
-        using Do = PlayerAct::Do;
-        if (word == "type") {
-            if (rest.empty()) Fail("\"type\" needs a text");
-            act.What = Do::Type;
-            act.Text = rest;
-            return;
-        }
-        if (word == "press" || word == "release") {
-            act.What = word == "press" ? Do::Press : Do::Release;
-            act.Key = KeyNamed(rest);
-        } else if (word == "drag") {
-            act.What = Do::Drag;
-            const auto x = ReadInteger(TakeWord(rest));
-            const auto y = ReadInteger(rest);
-            if (!x || !y) Fail("\"drag\" needs two whole numbers of twips");
-            act.X = static_cast<float>(*x);
-            act.Y = static_cast<float>(*y);
-        } else if (word == "menu") {
-            if (!isEntry(rest)) Fail("there is no menu entry \"" + std::string(rest) + "\"");
-            act.What = Do::Menu;
-            act.Text = rest;
-        } else if (word == "resize") {
-            const auto size = ReadSize(rest);
-            if (!size) Fail("\"resize\" needs a size such as 15360x11520");
-            act.What = Do::Resize;
-            act.X = size->Width;
-            act.Y = size->Height;
-        } else if (word == "click" || word == "gotfocus" || word == "lostfocus") {
-            if (!rest.empty()) Fail("words are left over");
-            act.What = word == "click"      ? Do::Click
-                       : word == "gotfocus" ? Do::GotFocus
-                                            : Do::LostFocus;
-        } else {
-            Fail("an event is type, press, release, click, drag, gotfocus, lostfocus, menu or "
-                 "resize");
-        }
+    void NoMore(std::string_view rest) const {
+        if (!rest.empty()) Fail("words are left over");
     }
 
-    Heading KeyNamed(std::string_view name) const {
-        for (const Heading key : Headings) {
-            if (KeyNames[Index(key)] == name) return key;
-        }
-        Fail("a key is Up, Down, Left or Right");
+    void Nothing(PlayerAct& /*act*/, std::string_view rest) const { NoMore(rest); }
+
+    void Typed(PlayerAct& act, std::string_view rest) const {
+        if (rest.empty()) Fail("\"type\" needs a text");
+        act.Text = rest;
+    }
+
+    void Key(PlayerAct& act, std::string_view rest) const {
+        const auto* const name = std::find(KeyNames.begin(), KeyNames.end(), rest);
+        if (name == KeyNames.end()) Fail("a key is Up, Down, Left or Right");
+        act.Key = Headings[static_cast<std::size_t>(name - KeyNames.begin())];
+    }
+
+    void Way(PlayerAct& act, std::string_view rest) const {
+        const auto x = ReadInteger(TakeWord(rest));
+        const auto y = ReadInteger(rest);
+        if (!x || !y) Fail("\"drag\" needs two whole numbers of twips");
+        act.X = static_cast<float>(*x);
+        act.Y = static_cast<float>(*y);
+    }
+
+    void Entry(PlayerAct& act, std::string_view rest) const {
+        if (!isEntry(rest)) Fail("there is no menu entry \"" + std::string(rest) + "\"");
+        act.Text = rest;
+    }
+
+    void Size(PlayerAct& act, std::string_view rest) const {
+        const auto size = ReadSize(rest);
+        if (!size) Fail("\"resize\" needs a size such as 15360x11520");
+        act.X = size->Width;
+        act.Y = size->Height;
     }
 
     Script& script;
     bool (*isEntry)(std::string_view);
     int line = 0;
 };
+
+const std::array<Reader::Verb, 9> Reader::Verbs{{{"type", Do::Type, &Reader::Typed},
+                                                 {"press", Do::Press, &Reader::Key},
+                                                 {"release", Do::Release, &Reader::Key},
+                                                 {"click", Do::Click, &Reader::Nothing},
+                                                 {"drag", Do::Drag, &Reader::Way},
+                                                 {"gotfocus", Do::GotFocus, &Reader::Nothing},
+                                                 {"lostfocus", Do::LostFocus, &Reader::Nothing},
+                                                 {"menu", Do::Menu, &Reader::Entry},
+                                                 {"resize", Do::Resize, &Reader::Size}}};
 
 } // namespace
 

@@ -19,7 +19,7 @@ struct ScriptFault : std::runtime_error {
 
 struct ScriptAnswer {
     enum class To { Yes, No, Text, File, Cancel };
-    To Kind;
+    To What;
     std::string Text;
     int Line;
 };

@@ -40,7 +40,7 @@ std::optional<ScriptAnswer> ScriptedPlatform::NextAnswer(const std::string& dial
     if (script.Answers.empty()) return std::nullopt;
     ScriptAnswer answer = script.Answers.front();
     script.Answers.pop_front();
-    if (!fits(answer.Kind)) {
+    if (!fits(answer.What)) {
         throw script.Fault(answer.Line, "the answer does not fit " + dialog);
     }
     return answer;
@@ -52,7 +52,7 @@ int ScriptedPlatform::MsgBox(const std::string& text, int style) {
     if (style == MsgBoxStyle::Question || style == MsgBoxStyle::Exclamation) {
         const auto answer =
             NextAnswer("a Yes/No box", [](To kind) { return kind == To::Yes || kind == To::No; });
-        result = answer && answer->Kind == To::Yes ? MsgBoxAnswer::Yes : MsgBoxAnswer::No;
+        result = answer && answer->What == To::Yes ? MsgBoxAnswer::Yes : MsgBoxAnswer::No;
     }
     out << "box " << style << ' ' << Quoted(text) << " = " << result << '\n';
     return result;
@@ -82,7 +82,7 @@ std::string ScriptedPlatform::ShowOpen(const OpenDialog& dialog) {
     const auto answer = NextAnswer("an open dialog" + why,
                                    [](To kind) { return kind == To::File || kind == To::Cancel; });
     std::string chosen;
-    if (answer && answer->Kind == To::File) chosen = ChosenPath(answer->Text);
+    if (answer && answer->What == To::File) chosen = ChosenPath(answer->Text);
     out << "open " << Quoted(dialog.Title) << ' ' << Quoted(dialog.InitDir) << ' '
         << Quoted(dialog.Filter) << " = " << Quoted(chosen) << '\n';
     return chosen;

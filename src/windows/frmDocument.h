@@ -83,6 +83,10 @@ class frmDocument : public Board {
     void ViewEdgeTick();
     /// Switches the following view and stores the choice; a mode of None keeps the one there is.
     void AutoMoveChange(bool on, ViewMode mode);
+
+  private:
+    /// Finds how far the map's walls and dirt reach.
+    void MeasureMap();
 };
 
 } // namespace tumbledeep

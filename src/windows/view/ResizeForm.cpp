@@ -23,7 +23,7 @@ void LayAtEdge(float parentSize, float you, float boardSize, float atFarEdge, fl
 
 } // namespace
 
-void frmDocument::ResizeForm() {
+void frmDocument::MeasureMap() {
     MapRight = 0;
     MapBottom = 0;
     // Only walls and dirt count: an object of another kind beyond them lies outside the window.
@@ -36,6 +36,10 @@ void frmDocument::ResizeForm() {
             if (right > MapRight) MapRight = RoundToEven(right);
         }
     }
+}
+
+void frmDocument::ResizeForm() {
+    MeasureMap();
     Form.Height = MapBottom;
     Form.Width = static_cast<float>(MapRight);
     const Window& parent = Parent.Form;
