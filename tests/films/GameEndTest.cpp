@@ -1,0 +1,37 @@
+// Won or dead: what the recount counts, and what it misses.
+#include "formats/LoadMap.h"
+#include "support/Film.h"
+
+#include <gtest/gtest.h>
+
+namespace tumbledeep {
+
+TEST(GameEnd, Recount) {
+    PlayFilms(R"(
+        = a gem that is taken on a tick counts at the next multiple of ten | tick:30 ends:wins
+            | key:.,.........,.
+            *   .   .   .
+            @   @   @   @)");
+    Board board = LoadMap("gem1type 0 0\ngem1type 0 360", 1);
+    Pool& gems = board.Pools[Kind::Gem1Type];
+    EXPECT_EQ(board.GemTotal, 3) << "the template counts";
+    const auto left = [&board] {
+        board.CheckGameEnd();
+        return board.GemsLeft;
+    };
+    EXPECT_EQ(left(), 2);
+    board.SpawnObject(Kind::Gem1Type, 0, 0, Heading::Down); // the template
+    EXPECT_EQ(left(), 3);
+    board.SpawnObject(Kind::Gem1Type, 0, 0, Heading::Down); // a new one
+    board.SpawnObject(Kind::Gem1Type, 0, 0, Heading::Down);
+    EXPECT_EQ(left(), 3) << "gems made as new sprites are not counted";
+    for (const int gem : {0, 1, 2, 3}) gems.Hide(gem);
+    EXPECT_EQ(left(), -1);
+    EXPECT_EQ(board.Result, Outcome::Running) << "what passes 0 between two counts is never won";
+    gems.Show(0);
+    board.YouDead = true;
+    EXPECT_EQ(left(), 0);
+    EXPECT_EQ(board.Result, Outcome::Won) << "with a gem on the board, and before the death";
+}
+
+} // namespace tumbledeep
