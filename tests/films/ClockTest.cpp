@@ -35,48 +35,15 @@ TEST(Clock, CycleOf301TicksServesEachKindAtItsMultiples) {
 
 TEST(Clock, OrderOnATick) {
     PlayFilms(R"(
-        = a factory's mine moves at once | tick:10 ^:0:movingmineL
-            ^   ^
-            .   L
-        = L before FL: one gap, and the first takes it | tick:10 F:L
-            #####   #####
-            #L.F#   #.LF#
-            #####   #####
-        = FL before R | tick:10 R:L
-            #####   #####
-            #F.R#   #.FR#
-            #####   #####
-        = R before T | tick:10
-            ##T#   ##T#
-            #R.#   #.R#
-            ####   ####
-        = mines, then rocks, then gems | tick:30
-            #*#.   #.#.
-            #O##   #*##
-            #L.#   #OL#
-            ####   ####
-        = T before rocks: the rock falls after it and hits, and the Bang spreads at once | tick:30
-            #O#   #.#
-            #T#   #.#
-            #.#   #.#
-            #.#   #.#
-            #:#   #:#
-        = gems before Bangs | tick:6
-            *.   *.
-            :X   ..
-            ##   ##
-        = Bangs before arrow keys | tick:6 held:R
-            @OX   .@.
-            ###   ###
-        = arrow keys before PP | tick:30 held:R
-            Q.@.   .Q.@
-        = rocks before PP | tick:30
-            .O#   ..#
-            Q.#   qO#
-            ###   ###
-        = PP before P | tick:60 Q:L
-            #####   #####
-            #P.Q#   #PQ.#
+        = the first takes the room: L FL; FL R; R T; L rock gem; T rock Bang; gem Bang; rock PP; PP P
+            | tick:60 ^:0:movingmineL a=F:L b=R:L c=Q:L
+            ###########T##*##O#*.#.O#####^#   ###########T##.##.#*.#..#####^#
+            #L.a##F.b#R.##O##T#:X#Q.#P.c#.#   #.LF##.FR#.R##*##.#..#qO#PQ.#L#
+            ##############L.#.#############   ##############OL#.#############
+            #################.#############   #################.#############
+            ###############################   ###############################
+        = Bangs, then arrow keys, then PP | tick:30 held:R
+            Q.@OX   .Q.@.
             #####   #####)");
 }
 

@@ -3,74 +3,43 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace tumbledeep {
 
-TEST(Gravity, RocksFallRollAndRest) {
+TEST(Gravity, Rocks) {
     PlayFilms(R"(
-        = a fall past a factory onto a gem
-            #O#O#   #.#.#   #.#.#
-            #^#.#   #O#O#   #^#O#
-            #.#*#   #.#*#   #O#*#
-            #####   #####   #####
+        = past a factory onto a gem; the lower of two first: both fall; the upper first: a gap opens
+            | a=O b=O d=O c=O
+            #O#b#d#   #.#.#O#   #.#.#.#
+            #^#a#c#   #O#O#.#   #^#O#O#
+            #.#.#.#   #.#O#O#   #O#O#O#
+            #*#####   #*#####   #*#####
         = all that roll go to one side, off rocks and gems alone | draw:R
-            .O..O..O..O..O..O..O..O..O..O.   ..O..O.O..O..O..O..O..O..O..O.
-            .O..*..:..#..T..L..R..F..P..X.   .O..*..:..#..T..L..R..F..P..X.
-            ##############################   ##############################
+            .O..O..O..O..O..O..O..O..O..O..O.   ..O..O.O..O..O..O..O..O..O..O..O.
+            .O..*..:..#..T..L..R..F..P..X..@.   .O..*..:..#..T..L..R..F..P..X..@.
+            ################################.   ################################.
         = one try, on the drawn side, and the cell below the target has to be free too | draw:LR
             #O.#O.   #O.#O.   #.O#O.
             #*.#*:   #*.#*:   #*.#*:
             ######   ######   ######
-        = the lower rock first: both fall | a=O b=O
-            #b#   #.#
-            #a#   #O#
-            #.#   #O#
-            ###   ###
-        = the upper rock first: a gap opens | a=O b=O
-            #a#   #O#   #.#
-            #b#   #.#   #O#
-            #.#   #O#   #O#
-            ###   ###   ###)",
-              &Board::RockTick);
-}
-
-TEST(Gravity, RocksHurtOnlyAtTheEndOfAFall) {
-    PlayFilms(R"(
-        = above the player, before the next rock's turn | ends:dies
+        = mines are hit at the end of a fall; a hidden one in that cell gives a Bang of its own
+            | a=L! a=L
+            #O#O#O#O#O#O#   #.#.#.#.#.#.#
+            #.#.#.#.#.#.#   #.#.#.#.#.#.#
+            #T#L#R#F#P#a#   #X#X#X#X#X#2#
+        = the player dies there, before the next rock's turn | ends:dies
             #O#O#   #.#O#
             #.#.#   #O#.#
-            #@#.#   #@#.#
-        = at rest on the player
-            #O#   #O#
-            #@#   #@#
-        = a hidden mine in the cell below gives a Bang of its own | a=L! a=L
-            #O#   #.#
-            #.#   #.#
-            #a#   #2#)",
+            #@#.#   #@#.#)",
               &Board::RockTick);
-    for (const char mine : std::string("TLRFP")) {
-        std::string film = R"(
-        = a mine below
-            #O#.O.   #.#.O.
-            #.#.M.   #.#.M.
-            #M####   #X####)";
-        std::replace(film.begin(), film.end(), 'M', mine);
-        PlayFilms(film, &Board::RockTick);
-    }
 }
 
-TEST(Gravity, GemsFallRollRestAndAreTaken) {
+TEST(Gravity, Gems) {
     PlayFilms(R"(
-        = taken at the turn after the fall, or where it rests
-            *##   .##   .##
-            .#*   *#.   .#.
-            @#.   @#*   @#*
-            ###   ###   ###
-        = the player takes what rests above; mines are not hurt
-            *.*   ..*
-            @.L   @.L
-        = rolls off gems, rocks and T mines, rests on all else | draw:R
+        = they hurt nobody, and are taken at the turn after the fall
+            #*#*#   #.#.#   #.#.#
+            #.#.#   #*#*#   #.#*#
+            #@#L#   #@#L#   #@#L#
+        = they roll off gems, rocks and T mines | draw:R
             .*..*..*..*..*..*..*..*..*.   ..*..*..*.*..*..*..*..*..*.
             .*..O..T..L..R..F..P..:..X.   .*..O..T..L..R..F..P..:..X.
             ###########################   ###########################
@@ -80,7 +49,8 @@ TEST(Gravity, GemsFallRollRestAndAreTaken) {
             ###   ###   ###)",
               &Board::GemTick);
     PlayFilms(R"(
-        = a draw of its own: the rock rolls right under the gem, the gem rolls left | tick:6 draw:RL
+        = a draw of their own: the rock rolls right under the gem, the gem rolls left
+            | tick:6 draw:RL
             ..*   .*.
             .O.   ..O
             .*.   .*.

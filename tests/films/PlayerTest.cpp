@@ -5,22 +5,21 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <sstream>
 
 namespace tumbledeep {
 
 namespace {
 
-/// A step along a line of cells, drawn from the player's side.
-struct Line {
-    std::string Before, After;
-    std::string Ready;
-};
-
-/// Plays each with the first key, and backwards with the second.
-void PlayLines(const std::vector<Line>& lines, bool upright, std::string_view keys) {
-    for (auto [before, after, ready] : lines) {
+/// Plays steps along a line of cells, "before after" from the player's side: with the first key,
+/// and backwards with the second. Only steps up and down onto something leave the player ready.
+void PlaySteps(const std::string& steps, bool upright, std::string_view keys) {
+    std::istringstream words(steps);
+    for (std::string before, after; words >> before >> after;) {
+        const bool ready = before == after || (upright && before != "@.");
         for (const char key : keys) {
-            std::string film = "= " + before + " | ready:" + ready + " key:" + key + "\n";
+            std::string film =
+                std::string("= | ready:") + (ready ? "yes" : "no") + " key:" + key + "\n";
             if (!upright) film += before + " " + after;
             for (std::size_t i = 0; upright && i < before.size(); ++i) {
                 film += std::string{before[i], ' ', after[i], '\n'};
@@ -35,60 +34,21 @@ void PlayLines(const std::vector<Line>& lines, bool upright, std::string_view ke
 } // namespace
 
 TEST(Player, StepsAndPushes) {
-    PlayLines({{"@.", ".@", "no"},
-               {"@:", ".@", "no"},
-               {"@*", ".@", "no"},
-               {"@#", "@#", "yes"},
-               {"@X", "@X", "yes"},
-               {"@L.", "@L.", "yes"},
-               {"@R.", "@R.", "yes"},
-               {"@F.", "@F.", "yes"},
-               {"@P.", "@P.", "yes"},
-               {"@O.", ".@O", "no"},
-               {"@T.", ".@T", "no"},
-               {"@O:", "@O:", "yes"},
-               {"@T*", "@T*", "yes"},
-               {"@OT.", "@OT.", "yes"},
-               {"@TO.", "@TO.", "yes"},
-               {"@OX", "@OX", "yes"},
-               {"@^", ".@", "no"}},
+    PlaySteps("@.  .@   @:  .@   @*  .@   @#  @#   @X  @X   @^  .@   @L. @L.  @R. @R.  @F. @F. "
+              "@P. @P.  @O. .@O  @T. .@T  @O: @O:  @T* @T*  @OT. @OT.  @TO. @TO.  @OX @OX",
               false, "da");
-    PlayLines({{"@.", ".@", "no"},
-               {"@:", ".@", "yes"},
-               {"@*", ".@", "yes"},
-               {"@#", "@#", "yes"},
-               {"@O.", "@O.", "yes"},
-               {"@T.", "@T.", "yes"}},
-              true, "sw");
-}
-
-TEST(Player, ReadinessWithinATick) {
+    PlaySteps("@. .@  @: .@  @* .@  @# @#  @O. @O.  @T. @T.", true, "sw");
     PlayFilms(R"(
-        = a column that was once dirt is run along | key:www,ss ready:yes
+        = a column that was once dirt is run along | key:www,ss
             :   @   .
             :   .   .
             :   .   @
             @   .   .
-        = an open one is not | key:ww ready:no
-            .   .
-            .   @
-            @   .
-        = one step sideways | key:dd ready:no
-            @::   .@:
-        = a refused push leaves the next key | key:da ready:no
-            .@O#   @.O#
-        = arrows: up the dug cell and then left | tick:6 held:UL
-            .:   @.
-            .@   ..
-        = up the open cell alone | tick:6 held:UL
-            ..   .@
-            .@   ..
-        = up the dug cell and back | tick:6 held:UD
-            :   .
-            @   @
-        = a refused first key leaves the next | tick:6 held:UR
-            ##   ##
-            @.   .@)");
+        = arrows are read up, down, left, right; the last finds the player not ready
+            | tick:6 held:RLDU a=@ a=:!
+            .:.   ...
+            .a.   @..
+            .#.   .#.)");
 }
 
 TEST(Player, EdgeOfTheGridIsAWall) {

@@ -37,62 +37,67 @@ struct Film {
                                              {"at", "1,1"}, {"key", ""},     {"heads", ""},
                                              {"ready", ""}, {"ends", "runs"}};
 
-    template <class Do> void ForEachCell(std::size_t frame, Do act) {
-        const std::size_t comma = Words["at"].find(',');
-        const Cell topLeft{std::stoi(Words["at"]), std::stoi(Words["at"].substr(comma + 1))};
-        Cell cell = topLeft;
-        for (char& mark : Frames[frame]) {
-            if (mark != '\n') act(mark, cell);
-            cell = mark == '\n' ? Cell{topLeft.Col, cell.Row + 1} : Cell{cell.Col + 1, cell.Row};
-        }
+    /// The cell of a mark by its place in a frame.
+    Cell CellAt(std::size_t place) {
+        const std::string& at = Words["at"];
+        const std::size_t width = Frames[0].find('\n') + 1;
+        return {std::stoi(at) + static_cast<int>(place % width),
+                std::stoi(at.substr(at.find(',') + 1)) + static_cast<int>(place / width)};
     }
 };
 
 Actor ReadActor(const std::string& word) {
     const std::size_t look = word[1] == '=' ? 2 : 0;
     const std::size_t kind = std::min(Looks.find(word[look]), Unmarked.find(word[look]));
-    const std::size_t colon = std::min(word.find(':', look + 1), word.size());
-    const char how = Looks[kind] == word[look] ? word[colon - 1] : '~';
+    const std::size_t colon = word.find(':', look + 1);
+    const char how = Looks[kind] == word[look] ? word.substr(0, colon).back() : '~';
     return {word[0], static_cast<Kind>(kind), how,
             colon < word.size() ? word.substr(colon + 1) : "R"};
 }
 
-/// The sprites of the first frame, as lines of a map.
-std::string MapOf(Film& film, std::vector<Actor>& sprites) {
+/// The first seed that draws these sides.
+std::uint32_t SeedOf(const std::string& sides) {
+    for (std::uint32_t seed = 0;; ++seed) {
+        Random random;
+        random.Seed(seed);
+        const auto drawn = [&](char side) { return (random.Rnd() < 0.5F) == (side == 'R'); };
+        if (std::all_of(sides.begin(), sides.end(), drawn)) return seed;
+    }
+}
+
+Board Load(Film& film) {
     std::string text;
-    std::array<int, KindCount> counts{};
+    std::vector<Actor> sprites;
     const auto place = [&](Actor sprite, Cell cell) {
-        const int before = counts.at(static_cast<std::size_t>(sprite.What))++;
-        sprite.Index = sprite.What == Kind::Bang ? before : before + 1;
         sprite.Where = cell;
+        sprite.Index = sprite.What == Kind::Bang ? 0 : 1; // Bangs begin with the template
+        for (const Actor& other : sprites) sprite.Index += other.What == sprite.What ? 1 : 0;
         sprites.push_back(sprite);
         text += std::string(KindText(sprite.What)) + " " + std::to_string((cell.Row - 1) * 360) +
                 " " + std::to_string((cell.Col - 1) * 360);
         const bool tagged = sprite.What != Kind::You && RowOf(sprite.What).Tag != TagUse::None;
         text += tagged ? " " + sprite.Tag + "\n" : "\n";
     };
+    const std::string& marks = film.Frames[0];
     for (const Actor& actor : film.Cast) {
-        film.ForEachCell(0, [&](char mark, Cell cell) {
-            if (mark == actor.Mark) place(actor, cell);
-        });
+        for (std::size_t i = 0; i < marks.size(); ++i) {
+            if (marks[i] == actor.Mark) place(actor, film.CellAt(i));
+        }
     }
     if (text.find("you ") > text.size()) place(ReadActor("@"), {299, 299});
     if (text.find("gem1type ") > text.size()) place(ReadActor("*"), {300, 300});
-    return text;
-}
 
-Board Load(Film& film, std::uint32_t seed) {
-    std::vector<Actor> sprites;
-    Board board = LoadMap(MapOf(film, sprites), seed);
+    const std::uint32_t seed = SeedOf(film.Words["draw"]);
+    Board board = LoadMap(text, seed);
     const auto hide = [&](char how) {
         for (const Actor& sprite : sprites) {
             if (sprite.How == how) board.Pools[sprite.What].Hide(sprite.Index);
         }
     };
-    for (const auto& [mark, what, how, tag, cell, index] : sprites) {
-        if (what != Kind::Bang) continue; // no map can place it
-        board.SpawnObject(what, static_cast<float>(cell.Col - 1) * Pitch,
-                          static_cast<float>(cell.Row - 1) * Pitch, Heading::Down);
+    for (const Actor& sprite : sprites) {
+        if (sprite.What != Kind::Bang) continue; // no map can place it
+        board.SpawnObject(Kind::Bang, static_cast<float>(sprite.Where.Col - 1) * Pitch,
+                          static_cast<float>(sprite.Where.Row - 1) * Pitch, Heading::Down);
     }
     hide('!');
     board.ResetStart(seed);
@@ -136,55 +141,42 @@ std::string HeadsOf(const Board& board) {
     return heads;
 }
 
-/// The first seed that draws these sides.
-std::uint32_t SeedOf(const std::string& sides) {
-    for (std::uint32_t seed = 0;; ++seed) {
-        Random random;
-        random.Seed(seed);
-        const auto drawn = [&](char side) { return (random.Rnd() < 0.5F) == (side == 'R'); };
-        if (std::all_of(sides.begin(), sides.end(), drawn)) return seed;
-    }
-}
-
 void Play(Film& film, Routine routine) {
     SCOPED_TRACE(film.Title);
-    Board board = Load(film, SeedOf(film.Words["draw"]));
+    Board board = Load(film);
     board.TickCount = To16(std::stoi(film.Words["tick"]) - 1);
     HeldKeys held;
     for (const char& way : film.Words["held"]) held.Set(*HeadingNamed({&way, 1}), true);
     std::istringstream keys(film.Words["key"]);
     std::istringstream heads(film.Words["heads"]);
     for (std::size_t frame = 1; frame < film.Frames.size(); ++frame) {
-        SCOPED_TRACE("frame " + std::to_string(frame + 1));
         std::string acts;
         if (!std::getline(keys, acts, ',')) acts = routine == nullptr ? "." : "!";
         for (const char& act : acts) {
-            if (act == '!')
-                (board.*routine)();
-            else if (act == '.')
-                board.Period("", held);
-            else
-                board.MoveYou({&act, 1});
+            if (act == '!') (board.*routine)();
+            if (act == '.') board.Period("", held);
+            if (act != '!' && act != '.') board.MoveYou({&act, 1});
         }
-        const std::string expected = film.Frames[frame];
-        film.ForEachCell(frame, [&](char& mark, Cell cell) { mark = LookOf(board, cell); });
-        EXPECT_EQ(film.Frames[frame], expected);
+        std::string shown = film.Frames[frame];
+        for (std::size_t i = 0; i < shown.size(); ++i) {
+            if (shown[i] != '\n') shown[i] = LookOf(board, film.CellAt(i));
+        }
         const bool last = frame + 1 == film.Frames.size();
-        EXPECT_EQ(Ends.at(static_cast<std::size_t>(board.Result)),
-                  last ? film.Words["ends"] : "runs");
-        std::string headings;
-        if (std::getline(heads, headings, ',')) {
-            EXPECT_EQ(HeadsOf(board), headings);
+        std::string expected = film.Frames[frame] + (last ? film.Words["ends"] : "runs");
+        shown += Ends.at(static_cast<std::size_t>(board.Result));
+        if (std::string headings; std::getline(heads, headings, ',')) {
+            expected += " " + headings;
+            shown += " " + HeadsOf(board);
         }
+        EXPECT_EQ(expected, shown) << "in frame " << frame + 1;
     }
     const std::string& ready = film.Words["ready"];
     EXPECT_TRUE(ready.empty() || ready == (board.MoveReady ? "yes" : "no"));
 }
 
-/// Reads the words behind the title's bar; whatever they do not name plays itself.
+/// The words behind the title's bar, then the looks that they do not name.
 void ReadCast(Film& film) {
-    std::istringstream words(film.Title);
-    words.ignore(static_cast<std::streamsize>(film.Title.size()), '|');
+    std::istringstream words(film.Title.substr(std::min(film.Title.find('|'), film.Title.size())));
     std::string named = ".";
     for (std::string word; words >> word;) {
         const std::size_t colon = word.find(':');
@@ -204,27 +196,24 @@ void ReadCast(Film& film) {
 } // namespace
 
 void PlayFilms(std::string_view films, Routine routine) {
-    std::istringstream lines{std::string(films)};
+    std::istringstream lines{std::string(films) + "\n="};
     Film film;
-    const auto play = [&] {
-        if (film.Frames.empty()) return;
-        ReadCast(film);
-        Play(film, routine);
-    };
     for (std::string line; std::getline(lines, line);) {
         std::istringstream words(line);
-        std::string row;
-        for (std::size_t frame = 0; words >> row && row != "=" && row != "|"; ++frame) {
+        std::string word;
+        for (std::size_t frame = 0; words >> word && word != "=" && word != "|"; ++frame) {
             film.Frames.resize(std::max(film.Frames.size(), frame + 1));
-            film.Frames[frame] += row + "\n";
+            film.Frames[frame] += word + "\n";
         }
-        if (row == "|") film.Title += line;
-        if (row != "=") continue;
-        play();
-        film = Film{};
+        if (word == "|") film.Title += line;
+        if (word != "=") continue;
+        if (!film.Frames.empty()) {
+            ReadCast(film);
+            Play(film, routine);
+        }
+        film = {};
         film.Title = line;
     }
-    play();
 }
 
 } // namespace tumbledeep
