@@ -2,27 +2,25 @@
 #include "formats/LoadMap.h"
 #include "support/Film.h"
 
-#include <gtest/gtest.h>
-
 #include <map>
 
 namespace tumbledeep {
 
 TEST(Clock, CycleOf301TicksServesEachKindAtItsMultiples) {
-    Board board = LoadMap("you 0 0\ngem1type 0 3600\nroundrock 0 7200\nmovingmineT 0 10800\n"
-                          "movingmineL 36000 36000 R\nmovingmineR 36000 72000 R\n"
-                          "movingmineFL 72000 0 R\nmovingmineP 90000 0 R\n"
-                          "movingminePP 36000 90000 R\nfactory 18000 18000 ?",
-                          1);
-    HeldKeys held;
-    held.Set(Heading::Right, true);
     const std::map<Kind, int> multiples{{Kind::Gem1Type, 6},      {Kind::RoundRock, 6},
                                         {Kind::MovingMineT, 10},  {Kind::MovingMineL, 10},
                                         {Kind::MovingMineR, 10},  {Kind::MovingMineFL, 10},
                                         {Kind::MovingMinePP, 30}, {Kind::MovingMineP, 20}};
+    Board board = LoadMap("you 0 0\ngem1type 0 36000\nfactory 18000 18000 ?", 1);
+    for (const auto& [kind, multiple] : multiples) {
+        board.SpawnObject(kind, 7200.0F * static_cast<float>(kind), 3600, Heading::Down);
+    }
+    HeldKeys held;
+    held.Set(Heading::Right, true);
     for (int tick = 1; tick <= 301; ++tick) {
+        board.GemsShown.reset();
         const Board before = board;
-        EXPECT_EQ(board.Tick(held), Outcome::Running);
+        board.Tick(held);
         ASSERT_EQ(board.TickCount, tick % 301);
         for (const auto& [kind, multiple] : multiples) {
             EXPECT_EQ(board.Pools[kind] != before.Pools[kind], tick % 301 % multiple == 0)
@@ -30,6 +28,7 @@ TEST(Clock, CycleOf301TicksServesEachKindAtItsMultiples) {
         }
         EXPECT_EQ(board.FactoryCount != before.FactoryCount, tick % 301 % 10 == 0);
         EXPECT_EQ(board.You != before.You, tick % 301 % 6 == 0);
+        EXPECT_EQ(board.GemsShown.has_value(), tick % 301 % 30 == 0);
     }
 }
 
@@ -56,8 +55,15 @@ TEST(Clock, PauseAndTheEnd) {
             .O.*   ...*
             ....   .O..
             @...   .@..
-        = nor after a win | tick:10 key:d. ends:wins ready:no
-            @*.L.   .@.L.)");
+        = nor after a win | tick:10 key:d. ends:wins ready:no ^:0:dirt
+            @*.L.^   .@.L.^
+        = a gem that is taken on a tick counts at the next multiple of ten | tick:30
+            *   .
+            @   @
+        = hidden sprites have no turn | tick:0
+            | a=O! b=*! c=T! d=L! e=R! f=F! g=P! h=Q! i=X! j=^!:0:dirt
+            a.b.c.d.e.f.g.h.i:.j*   .................:..*
+            ....................#   ....................#)");
 }
 
 } // namespace tumbledeep

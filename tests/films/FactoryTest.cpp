@@ -2,16 +2,15 @@
 #include "formats/LoadMap.h"
 #include "support/Film.h"
 
-#include <gtest/gtest.h>
-
 #include <map>
 
 namespace tumbledeep {
 
 TEST(Factory, RestsAndProducts) {
     PlayFilms(R"(
-        = a rest of two, and none with any separator | a=^:2:roundrock b=^:0/dirt
-            ab   ^:   ^:   O:
+        = a rest of two, and none with any separator; a new sprite does not mark the cell
+            | a=^:0/dirt b=^:2:dirt
+            ab   :^   :^   :;   :;
         = the rest counts from when the cell was seen free | a=@ a=^:1:dirt key:!!!,d!,!
             a.   @.   ^@   :@
         = a hidden one makes nothing | h=^!:0:dirt
@@ -30,11 +29,6 @@ TEST(Factory, RestsAndProducts) {
     for (const char* recipe : {"x:dirt", "0", "0:", "0:you", "0:factory", "0:Dirt", "-1:dirt"}) {
         PlayFilms(std::string("= makes nothing: | ^:") + recipe + "\n ^ ^ ^", &Board::FactoryTick);
     }
-    PlayFilms(R"(
-        = a blast leaves the factory | tick:30 ^:0:bang
-            :#:   .#.
-            O^*   .^*
-            ###   ###)");
 }
 
 TEST(Factory, NewRocksAndGemsDrawAPicture) {

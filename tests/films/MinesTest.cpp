@@ -1,8 +1,6 @@
 // The six kinds of mine: how they walk, turn, aim, fall, and whom they kill.
 #include "support/Film.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 namespace tumbledeep {
@@ -39,24 +37,19 @@ TEST(Mines, FLRunsStraightAndKillsAheadAlone) {
     PlayFilms(R"(
         = it bends down or up in one call; up it prefers left, down right, and loses the call
             | F:R b=F:L c=F:U d=F:D e=F:D f=F:U heads:DUDLRLR
-            ######################   ######################   ######################
+            #.######.#############   #.######.#############   #.######.#############
             #F##.###b#############   #.##F###.#############   #.##F###.#############
             #..#F###.#.c.#.d.#e#f#   #F.#.###F#.F.#.F.#F#F#   #F.#.###F#F..#..F#F#F#
             #:.###################   #:.###################   #:.###################
-        = a tag that is no heading neither moves nor kills | F:r heads:-
-            F@   F@
         = ahead after a step | F:L ends:dies
             @.F   @F.
-        = the player blocks it, it turns and looks back | F:U ends:dies heads:R
-            #@#   #@#
-            #F#   #F#
-        = running right it kills untold, before the next mine's turn | heads:UR ends:untold
+        = running right, and stopped by the player, it kills untold, before the next mine's turn | heads:UR ends:untold
             F@   F@
             F.   F.
-        = the player beside it lives
+        = the player beside it lives, and before one whose tag is no heading | b=F:l heads:-U
             .##   F##
             F#.   .#.
-            @..   @..)",
+            @b.   @F.)",
               &Board::MineFLTick);
 }
 
@@ -67,14 +60,10 @@ TEST(Mines, TGoesOffInTheLastFreeCellOfItsFall) {
             #.#.#   #T#X#   #.#X#
             #.#T#   #.#T#   #?#T#
             #@###   #@###   #@###
-        = rolls off gems, rocks and T mines, rests on all else | draw:R
-            .T..T..T..T..T..T..T..T..T..T.   ..T..T..T.T..T..T..T..T..T..T.
+        = rolls off gems, rocks and T mines, rests on all else | draw:L
+            .T..T..T..T..T..T..T..T..T..T.   T..T..T...T..T..T..T..T..T..T.
             .*..O..T..:..X..@..L..R..F..P.   .*..O..T..:..X..@..L..R..F..P.
-            ##############################   ##############################
-        = one try, on the drawn side | draw:RL
-            .T#   .T#   T.#
-            .O.   .O.   .O.
-            ###   ###   ###)",
+            ##############################   ##############################)",
               &Board::MineTTick);
 }
 

@@ -2,8 +2,6 @@
 #include "formats/LoadMap.h"
 #include "support/Film.h"
 
-#include <gtest/gtest.h>
-
 namespace tumbledeep {
 
 TEST(SetUp, GridAndPicturesComeFromTheSprites) {

@@ -3,8 +3,6 @@
 
 #include "formats/LoadMap.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <map>
 #include <sstream>
@@ -51,8 +49,9 @@ Actor ReadActor(const std::string& word) {
     const std::size_t kind = std::min(Looks.find(word[look]), Unmarked.find(word[look]));
     const std::size_t colon = word.find(':', look + 1);
     const char how = Looks[kind] == word[look] ? word.substr(0, colon).back() : '~';
+    const std::string tag = std::string_view("LRFPQ").find(word[look]) < 5 ? "R" : "";
     return {word[0], static_cast<Kind>(kind), how,
-            colon < word.size() ? word.substr(colon + 1) : "R"};
+            colon < word.size() ? word.substr(colon + 1) : tag};
 }
 
 /// The first seed that draws these sides.
@@ -66,17 +65,15 @@ std::uint32_t SeedOf(const std::string& sides) {
 }
 
 Board Load(Film& film) {
-    std::string text;
+    std::ostringstream text;
     std::vector<Actor> sprites;
     const auto place = [&](Actor sprite, Cell cell) {
         sprite.Where = cell;
         sprite.Index = sprite.What == Kind::Bang ? 0 : 1; // Bangs begin with the template
         for (const Actor& other : sprites) sprite.Index += other.What == sprite.What ? 1 : 0;
         sprites.push_back(sprite);
-        text += std::string(KindText(sprite.What)) + " " + std::to_string((cell.Row - 1) * 360) +
-                " " + std::to_string((cell.Col - 1) * 360);
-        const bool tagged = sprite.What != Kind::You && RowOf(sprite.What).Tag != TagUse::None;
-        text += tagged ? " " + sprite.Tag + "\n" : "\n";
+        text << KindText(sprite.What) << " " << (cell.Row - 1) * 360 << " " << (cell.Col - 1) * 360;
+        text << (sprite.Tag.empty() ? "" : " ") << sprite.Tag << "\n";
     };
     const std::string& marks = film.Frames[0];
     for (const Actor& actor : film.Cast) {
@@ -84,11 +81,11 @@ Board Load(Film& film) {
             if (marks[i] == actor.Mark) place(actor, film.CellAt(i));
         }
     }
-    if (text.find("you ") > text.size()) place(ReadActor("@"), {299, 299});
-    if (text.find("gem1type ") > text.size()) place(ReadActor("*"), {300, 300});
+    if (text.view().find("you ") > text.view().size()) place(ReadActor("@"), {299, 299});
+    if (text.view().find("gem1type ") > text.view().size()) place(ReadActor("*"), {300, 300});
 
     const std::uint32_t seed = SeedOf(film.Words["draw"]);
-    Board board = LoadMap(text, seed);
+    Board board = LoadMap(text.str(), seed);
     const auto hide = [&](char how) {
         for (const Actor& sprite : sprites) {
             if (sprite.How == how) board.Pools[sprite.What].Hide(sprite.Index);

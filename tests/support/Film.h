@@ -26,6 +26,8 @@
 
 #include "world/Board.h"
 
+#include <gtest/gtest.h>
+
 #include <string_view>
 
 namespace tumbledeep {
