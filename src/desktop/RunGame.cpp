@@ -1,0 +1,108 @@
+// What needs no screen comes first, so that --help works without one.
+#include "desktop/RunGame.h"
+
+#include "desktop/DesktopPlatform.h"
+#include "desktop/FirstStart.h"
+#include "desktop/GameWindow.h"
+#include "desktop/Options.h"
+#include "desktop/Signals.h"
+#include "desktop/SpriteImages.h"
+#include "pictures/Catalogue.h"
+
+#include <QApplication>
+#include <QPixmap>
+#include <QScreen>
+
+#include <cstdlib>
+#include <iostream>
+#include <memory>
+#include <span>
+#include <stdexcept>
+
+namespace tumbledeep {
+
+namespace {
+
+constexpr int WrongCall = 2;
+constexpr int NoScreen = 1;
+constexpr QSize FirstSize{1024, 768};
+
+constexpr const char* NoScreenText =
+    "tumbledeep: there is no screen here; start it from a desktop, "
+    "or set DISPLAY to one\n";
+
+/// While the toolkit looks for the screen: in place of a page of its errors, one line of ours.
+void OneLineForNoScreen(QtMsgType type, const QMessageLogContext& /*context*/,
+                        const QString& /*text*/) {
+    if (type != QtFatalMsg) return;
+    std::cerr << NoScreenText;
+    std::_Exit(NoScreen);
+}
+
+bool HasScreen() {
+    return std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr ||
+           std::getenv("QT_QPA_PLATFORM") != nullptr;
+}
+
+std::unique_ptr<GameWindow> OpenWindow(frmMain& game, DesktopPlatform& platform,
+                                       const Options& options) {
+    auto window = std::make_unique<GameWindow>(game, platform, options);
+    const bool isSuccessor = options.ShownPipe.has_value();
+    if (isSuccessor) {
+        window->showMaximized();
+        window->raise();
+        window->activateWindow();
+    } else {
+        const QSize room = window->screen()->availableSize();
+        window->resize(FirstSize.boundedTo(room * 0.9));
+        window->show();
+    }
+    return window;
+}
+
+int Run(int argc, char** argv) {
+    const Options options =
+        ReadOptions(std::span<char* const>(argv + 1, static_cast<std::size_t>(argc - 1)));
+    if (options.Help) {
+        std::cout << UsageText();
+        return 0;
+    }
+    if (options.Version) {
+        std::cout << "tumbledeep " TUMBLEDEEP_VERSION "\n";
+        return 0;
+    }
+    if (!HasScreen()) {
+        std::cerr << NoScreenText;
+        return NoScreen;
+    }
+
+    int toolkitWords = 1;
+    // The menu is part of the parent window, whose size the view reckons with.
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+    qInstallMessageHandler(OneLineForNoScreen);
+    const QApplication application(toolkitWords, argv);
+    qInstallMessageHandler(nullptr);
+    QApplication::setApplicationName("tumbledeep");
+    QApplication::setDesktopFileName("tumbledeep");
+    QApplication::setWindowIcon(QPixmap::fromImage(ImageOf(AppIcon(), 4, AppIconCovers)));
+
+    DesktopPlatform platform(options);
+    if (options.Argument.empty()) PrepareFirstStart(platform.Directory());
+    const auto game = std::make_unique<frmMain>(platform);
+    const auto window = OpenWindow(*game, platform, options);
+    QuitOnSignals([&platform] { platform.Quit(); });
+    return QApplication::exec();
+}
+
+} // namespace
+
+int RunGame(int argc, char** argv) {
+    try {
+        return Run(argc, argv);
+    } catch (const std::runtime_error& fault) {
+        std::cerr << "tumbledeep: " << fault.what() << '\n';
+        return WrongCall;
+    }
+}
+
+} // namespace tumbledeep
