@@ -30,14 +30,14 @@ constexpr int FocusPatience = 500;
 GameWindow::GameWindow(frmMain& main, DesktopPlatform& services, const Options& options)
     : game(main),
       platform(services),
-      canvas(new BoardCanvas(main, options.Scale)),
-      shownPipe(options.ShownPipe.value_or(-1)) {
-    setCentralWidget(canvas);
+      shownPipe(options.ShownPipe.value_or(-1)),
+      canvas(main, options.Scale) {
+    setCentralWidget(&canvas);
     BuildMenu();
     BuildStatusBar();
     ConnectCanvas();
     ConnectDialogs();
-    canvas->setFocus();
+    canvas.setFocus();
 
     timer.setTimerType(Qt::PreciseTimer);
     timer.setInterval(game.ActiveChild.Interval100Timer.Interval);
@@ -45,7 +45,7 @@ GameWindow::GameWindow(frmMain& main, DesktopPlatform& services, const Options& 
         if (openDialogs == 0) Deliver([this] { game.TimerPeriod(); });
     });
     // The application's state, not the window's: between the two windows of a dialog nobody leaves.
-    connect(qApp, &QGuiApplication::applicationStateChanged, this,
+    connect(qApp, &QGuiApplication::applicationStateChanged, &canvas,
             [this](Qt::ApplicationState now) {
                 if (!started) return;
                 Act({now == Qt::ApplicationActive ? Do::GotFocus : Do::LostFocus});
@@ -84,7 +84,7 @@ void GameWindow::Act(const PlayerAct& act) {
 }
 
 void GameWindow::TakeOuterSize() {
-    const qreal ratio = devicePixelRatioF() / canvas->Scale() * TwipsPerPixel;
+    const qreal ratio = devicePixelRatioF() / canvas.Scale() * TwipsPerPixel;
     PlayerAct resize{Do::Resize};
     resize.X = static_cast<float>(frameGeometry().width() * ratio);
     resize.Y = static_cast<float>(frameGeometry().height() * ratio);
@@ -110,7 +110,7 @@ void GameWindow::Sync() {
     const bool runs = started && openDialogs == 0 && game.ActiveChild.Interval100Timer.Enabled;
     if (runs && !timer.isActive()) timer.start();
     if (!runs) timer.stop();
-    canvas->Sync();
+    canvas.Sync();
 }
 
 void GameWindow::BuildMenu() {
@@ -147,20 +147,20 @@ void GameWindow::BuildStatusBar() {
 }
 
 void GameWindow::ConnectCanvas() {
-    canvas->Typed = [this](const std::string& text) {
+    canvas.Typed = [this](const std::string& text) {
         if (started) Act({Do::Type, text});
     };
-    canvas->ArrowKey = [this](Heading key, bool down) {
+    canvas.ArrowKey = [this](Heading key, bool down) {
         Act({down ? Do::Press : Do::Release, "", key});
     };
-    canvas->KeysLost = [this] {
+    canvas.KeysLost = [this] {
         for (const Heading key : Headings) {
             if (game.ActiveChild.ArrowKeys.Holds(key)) Act({Do::Release, "", key});
         }
     };
-    canvas->BoardPressed = [this] { Act({Do::Click}); };
-    canvas->BoardMouseMoved = [this] { Deliver([this] { game.ActiveChild.Form_MouseMove(1); }); };
-    canvas->BoardDragged = [this](float x, float y) {
+    canvas.BoardPressed = [this] { Act({Do::Click}); };
+    canvas.BoardMouseMoved = [this] { Deliver([this] { game.ActiveChild.Form_MouseMove(1); }); };
+    canvas.BoardDragged = [this](float x, float y) {
         PlayerAct drag{Do::Drag};
         drag.X = x;
         drag.Y = y;
@@ -168,15 +168,15 @@ void GameWindow::ConnectCanvas() {
     };
     // The first exposure stands for the first activation: a window manager grants the focus some
     // time later, or never. Queued, as a game that starts may open dialogs.
-    canvas->CameUp = [this] {
+    canvas.CameUp = [this] {
         QMetaObject::invokeMethod(
             this, [this] { StartGame(); }, Qt::QueuedConnection);
     };
-    canvas->BoardPainted = [this] {
+    canvas.BoardPainted = [this] {
         QMetaObject::invokeMethod(
             this, [this] { TellShown(); }, Qt::QueuedConnection);
     };
-    platform.BeginDrag = [this] { canvas->BeginDrag(); };
+    platform.BeginDrag = [this] { canvas.BeginDrag(); };
 }
 
 void GameWindow::ConnectDialogs() {

@@ -44,7 +44,6 @@ class GameWindow final : public QMainWindow {
 
     frmMain& game;
     DesktopPlatform& platform;
-    BoardCanvas* canvas;
     QLabel* panel = nullptr;
     std::vector<QAction*> actions; ///< by index in the game's menu, nullptr for a submenu
     std::string shownCaption;
@@ -55,6 +54,8 @@ class GameWindow final : public QMainWindow {
     bool started = false;
     bool ended = false;
     bool hadFocus = false;
+    /// Last, so that it goes first: it loses the focus as the window goes, and tells the window so.
+    BoardCanvas canvas;
 };
 
 } // namespace tumbledeep
