@@ -23,14 +23,20 @@ constexpr QRgb ParentBackground = 0xFF808080;
 /// With more changes than this, one repaint of their bounds is cheaper than many small ones.
 constexpr std::size_t ManyChanges = 256;
 
-std::optional<Heading> ArrowOf(int key) {
-    switch (key) {
+std::optional<Heading> ArrowOf(const QKeyEvent& event) {
+    switch (event.key()) {
     case Qt::Key_Left: return Heading::Left;
     case Qt::Key_Up: return Heading::Up;
     case Qt::Key_Right: return Heading::Right;
     case Qt::Key_Down: return Heading::Down;
     default: return std::nullopt;
     }
+}
+
+/// An event that no keyboard made has no place on one: there its name must do.
+ScanCode CodeOf(const QKeyEvent& event) {
+    const ScanCode code = event.nativeScanCode();
+    return code != 0 ? code : static_cast<ScanCode>(event.key());
 }
 
 } // namespace
@@ -40,6 +46,7 @@ BoardCanvas::BoardCanvas(frmMain& main, std::optional<int> scale) : game(main), 
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_InputMethodEnabled);
     images.SetScale(Scale());
+    arrows.Changed = [this](Heading arrow, bool down) { ArrowKey(arrow, down); };
 }
 
 int BoardCanvas::Scale() const {
@@ -162,7 +169,7 @@ bool BoardCanvas::OnSurface(const QPointF& device) const {
 }
 
 void BoardCanvas::keyPressEvent(QKeyEvent* event) {
-    if (const auto key = ArrowOf(event->key())) return ArrowKey(*key, true);
+    if (arrows.Press(CodeOf(*event), ArrowOf(*event))) return;
     if (event->modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier)) {
         return QWidget::keyPressEvent(event);
     }
@@ -170,10 +177,9 @@ void BoardCanvas::keyPressEvent(QKeyEvent* event) {
 }
 
 void BoardCanvas::keyReleaseEvent(QKeyEvent* event) {
-    const auto key = ArrowOf(event->key());
-    if (!key) return QWidget::keyReleaseEvent(event);
     // A key that repeats reports releases that no finger made.
-    if (!event->isAutoRepeat()) ArrowKey(*key, false);
+    if (event->isAutoRepeat()) return;
+    if (!arrows.Release(CodeOf(*event))) QWidget::keyReleaseEvent(event);
 }
 
 void BoardCanvas::inputMethodEvent(QInputMethodEvent* event) {
@@ -187,8 +193,13 @@ void BoardCanvas::Type(const QString& text) {
     }
 }
 
+void BoardCanvas::focusInEvent(QFocusEvent* event) {
+    arrows.RegainKeyboard(AskKeyboard());
+    QWidget::focusInEvent(event);
+}
+
 void BoardCanvas::focusOutEvent(QFocusEvent* event) {
-    KeysLost();
+    arrows.LoseKeyboard();
     QWidget::focusOutEvent(event);
 }
 

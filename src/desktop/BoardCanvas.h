@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/BoardLook.h"
+#include "desktop/HeldArrows.h"
 #include "desktop/SpriteImages.h"
 
 #include <QWidget>
@@ -18,8 +19,7 @@ class BoardCanvas final : public QWidget {
 
     /// What the player does, told to the window. A typed text is one character.
     std::function<void(const std::string& text)> Typed;
-    std::function<void(Heading key, bool down)> ArrowKey;
-    std::function<void()> KeysLost;
+    std::function<void(Heading arrow, bool down)> ArrowKey;
     /// The left button went down on the board's own surface, and the mouse moves with it held.
     std::function<void()> BoardPressed;
     std::function<void()> BoardMouseMoved;
@@ -42,6 +42,7 @@ class BoardCanvas final : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -60,6 +61,7 @@ class BoardCanvas final : public QWidget {
     std::optional<int> fixedScale;
     SpriteImages images;
     BoardLook look;
+    HeldArrows arrows;
     QRect shownBoard;
     int shownScale = 0;
     bool pressedOnBoard = false;

@@ -150,13 +150,8 @@ void GameWindow::ConnectCanvas() {
     canvas.Typed = [this](const std::string& text) {
         if (started) Act({Do::Type, text});
     };
-    canvas.ArrowKey = [this](Heading key, bool down) {
-        Act({down ? Do::Press : Do::Release, "", key});
-    };
-    canvas.KeysLost = [this] {
-        for (const Heading key : Headings) {
-            if (game.ActiveChild.ArrowKeys.Holds(key)) Act({Do::Release, "", key});
-        }
+    canvas.ArrowKey = [this](Heading arrow, bool down) {
+        Act({down ? Do::Press : Do::Release, "", arrow});
     };
     canvas.BoardPressed = [this] { Act({Do::Click}); };
     canvas.BoardMouseMoved = [this] { Deliver([this] { game.ActiveChild.Form_MouseMove(1); }); };

@@ -1,0 +1,18 @@
+// What the system itself says of the keyboard, at moments when no event has told it.
+#pragma once
+
+#include <bitset>
+#include <cstdint>
+
+namespace tumbledeep {
+
+/// A key by its place on the keyboard.
+using ScanCode = std::uint32_t;
+
+/// The keys that are down, by scan code.
+using KeyboardState = std::bitset<256>;
+
+/// The keyboard as it is now. All keys are up where the system does not tell: Wayland tells none.
+KeyboardState AskKeyboard();
+
+} // namespace tumbledeep
