@@ -206,9 +206,8 @@ void BoardCanvas::focusOutEvent(QFocusEvent* event) {
 void BoardCanvas::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     const QPointF device = ToDevicePoint(event->position());
-    pressedOnBoard = OnSurface(device);
     lastMouse = device;
-    if (pressedOnBoard) BoardPressed();
+    pressedOnBoard = OnSurface(device) && BoardPressed();
 }
 
 void BoardCanvas::mouseMoveEvent(QMouseEvent* event) {

@@ -20,8 +20,9 @@ class BoardCanvas final : public QWidget {
     /// What the player does, told to the window. A typed text is one character.
     std::function<void(const std::string& text)> Typed;
     std::function<void(Heading arrow, bool down)> ArrowKey;
-    /// The left button went down on the board's own surface, and the mouse moves with it held.
-    std::function<void()> BoardPressed;
+    /// The left button went down on the board's own surface; false if that is no act of play. Then
+    /// the mouse moves with it held.
+    std::function<bool()> BoardPressed;
     std::function<void()> BoardMouseMoved;
     /// The mouse moves the board, by so many twips.
     std::function<void(float x, float y)> BoardDragged;

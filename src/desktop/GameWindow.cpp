@@ -24,6 +24,8 @@ using Do = PlayerAct::Do;
 constexpr int StatusPictureSize = 14;
 /// In milliseconds; without a window manager the focus never comes.
 constexpr int FocusPatience = 500;
+/// In milliseconds; a hand that comes back by other means needs longer for its first press.
+constexpr int SamePress = 150;
 
 } // namespace
 
@@ -46,10 +48,7 @@ GameWindow::GameWindow(frmMain& main, DesktopPlatform& services, const Options& 
     });
     // The application's state, not the window's: between the two windows of a dialog nobody leaves.
     connect(qApp, &QGuiApplication::applicationStateChanged, &canvas,
-            [this](Qt::ApplicationState now) {
-                if (!started) return;
-                Act({now == Qt::ApplicationActive ? Do::GotFocus : Do::LostFocus});
-            });
+            [this](Qt::ApplicationState now) { Leave(now != Qt::ApplicationActive); });
     Sync();
 }
 
@@ -153,7 +152,11 @@ void GameWindow::ConnectCanvas() {
     canvas.ArrowKey = [this](Heading arrow, bool down) {
         Act({down ? Do::Press : Do::Release, "", arrow});
     };
-    canvas.BoardPressed = [this] { Act({Do::Click}); };
+    canvas.BoardPressed = [this] {
+        if (BringsBack()) return false;
+        Act({Do::Click});
+        return true;
+    };
     canvas.BoardMouseMoved = [this] { Deliver([this] { game.ActiveChild.Form_MouseMove(1); }); };
     canvas.BoardDragged = [this](float x, float y) {
         PlayerAct drag{Do::Drag};
@@ -186,6 +189,17 @@ void GameWindow::ConnectDialogs() {
         --openDialogs;
         TakeOuterSize();
     };
+}
+
+void GameWindow::Leave(bool away) {
+    if (isAway && !away) sinceReturn.start();
+    isAway = away;
+    if (started) Act({away ? Do::LostFocus : Do::GotFocus});
+}
+
+/// The window manager gives the focus before it lets the press through, or after.
+bool GameWindow::BringsBack() const {
+    return isAway || (sinceReturn.isValid() && !sinceReturn.hasExpired(SamePress));
 }
 
 /// A dialog that comes up before its parent has ever had the focus may never be given it.

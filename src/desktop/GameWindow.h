@@ -6,6 +6,7 @@
 #include "desktop/DesktopPlatform.h"
 #include "windows/frmMain.h"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
 
@@ -39,6 +40,10 @@ class GameWindow final : public QMainWindow {
     void BuildStatusBar();
     void ConnectCanvas();
     void ConnectDialogs();
+    /// The player goes to another program, or comes back from one.
+    void Leave(bool away);
+    /// A press of the mouse that comes from away, or is what has just ended that.
+    bool BringsBack() const;
     void AwaitFocus();
     void TellShown();
 
@@ -54,6 +59,8 @@ class GameWindow final : public QMainWindow {
     bool started = false;
     bool ended = false;
     bool hadFocus = false;
+    bool isAway = false;
+    QElapsedTimer sinceReturn; ///< not valid before the first return
     /// Last, so that it goes first: it loses the focus as the window goes, and tells the window so.
     BoardCanvas canvas;
 };
