@@ -7,32 +7,18 @@ namespace tumbledeep {
 
 namespace {
 
-constexpr std::array<const char*, 10> Kinds{
-    "dirt",        "harddirt",    "gem1type",     "roundrock",   "movingmineT",
-    "movingmineL", "movingmineR", "movingmineFL", "movingmineP", "movingminePP"};
-constexpr std::array<const char*, 10> Tags{" U", " D", " L", " R", " U",
-                                           " D", " L", " R", " u", ""};
-constexpr std::array<const char*, 16> Recipes{
-    "0:roundrock",   "1:gem1type",     "2:movingmineT", "0:movingmineL",
-    "3:movingmineR", "1:movingmineFL", "2:movingmineP", "1:movingminePP",
-    "5:dirt",        "4:harddirt",     "2:bang",        "0:gem1type",
-    "9:roundrock",   "x:dirt",         "0:you",         "1:factory"};
-constexpr std::array<const char*, 9> Entries{"MnuLoadMap",      "MnuBeginagain", "MnuMapList",
-                                             "MnuRestart",      "MnuOff",        "MnuMode1",
-                                             "MnuStartLastMap", "MnuMode2",      "MnuMode3"};
-constexpr std::array<const char*, 12> Answers{"yes",
-                                              "yes",
-                                              "yes",
-                                              "yes",
-                                              "no",
-                                              "1",
-                                              "2",
-                                              "3",
-                                              "Z:\\game\\m1.TBM",
-                                              "Z:\\game\\Default.TBL",
-                                              "Z:\\game\\m2.tbm",
-                                              ""};
-constexpr std::array<const char*, 10> Letters{"w", "a", "s", "d", "w", "a", "s", "d", "p", "W"};
+constexpr std::string_view Kinds = "dirt harddirt gem1type roundrock movingmineT movingmineL "
+                                   "movingmineR movingmineFL movingmineP movingminePP";
+constexpr std::string_view Tags = "U D L R U D L R u D2";
+constexpr std::string_view Recipes =
+    "0:roundrock 1:gem1type 2:movingmineT 0:movingmineL 3:movingmineR 1:movingmineFL 2:movingmineP "
+    "1:movingminePP 5:dirt 4:harddirt 2:bang 0:gem1type 9:roundrock x:dirt 0:you 1:factory";
+constexpr std::string_view Entries =
+    "MnuLoadMap MnuBeginagain MnuMapList MnuRestart MnuOff MnuMode1 MnuStartLastMap MnuMode2 "
+    "MnuMode3";
+constexpr std::string_view Answers =
+    "yes yes yes yes no 1 2 3 Z:\\game\\m1.TBM Z:\\game\\Default.TBL Z:\\game\\m2.tbm ";
+constexpr std::string_view Letters = "w a s d w a s d p W";
 
 /// One object, now and then between two cells.
 std::string Line(Dice& dice, const std::string& keyword, int col, int row) {
@@ -44,7 +30,7 @@ std::string Line(Dice& dice, const std::string& keyword, int col, int row) {
     if (keyword == "factory") {
         line += " " + dice.OneOf(Recipes);
     } else if (keyword.starts_with("movingmine") && keyword != "movingmineT") {
-        line += dice.OneOf(Tags);
+        line += " " + dice.OneOf(Tags);
     }
     return line + "\n";
 }

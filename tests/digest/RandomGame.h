@@ -7,9 +7,10 @@
 #include "host/MemoryPlatform.h"
 #include "windows/frmMain.h"
 
-#include <array>
+#include <algorithm>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace tumbledeep {
 
@@ -20,9 +21,11 @@ class Dice {
     /// A whole number from 0, below a limit.
     int Below(int limit) { return static_cast<int>(random.Rnd() * static_cast<float>(limit)); }
     bool Once(int in) { return Below(in) == 0; }
-    /// A text of a table.
-    template <std::size_t Size> std::string OneOf(const std::array<const char*, Size>& table) {
-        return table[static_cast<std::size_t>(Below(static_cast<int>(Size)))];
+    /// A word of a text, whose words stand one blank apart; two blanks make an empty one.
+    std::string OneOf(std::string_view words) {
+        int skip = Below(static_cast<int>(std::count(words.begin(), words.end(), ' ')) + 1);
+        while (skip-- > 0) words.remove_prefix(words.find(' ') + 1);
+        return std::string(words.substr(0, words.find(' ')));
     }
 
   private:

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <map>
 
 namespace tumbledeep {
@@ -76,27 +75,6 @@ TEST(Catalogue, EveryPictureIsDrawnAndNoTwoGemsOrRocksAlike) {
         EXPECT_NE(Look(picture), white) << PictureName(picture);
         for (int other = static_cast<int>(GemTypePic); other < i; ++other) {
             EXPECT_NE(Look(picture), Look(static_cast<Picture>(other))) << PictureName(picture);
-        }
-    }
-}
-
-TEST(Catalogue, MinesAreToldApartWithoutHue) {
-    constexpr std::array mines{MovingMineT,  MovingMineL, MovingMineR,
-                               MovingMineFL, MovingMineP, MovingMinePP};
-    const auto luminance = [](Colour c) {
-        return 0.2126 * c.Red + 0.7152 * c.Green + 0.0722 * c.Blue;
-    };
-    constexpr double noticeable = 48;
-    constexpr int enough = 16;
-    for (const Picture one : mines) {
-        for (const Picture other : mines) {
-            if (one == other) continue;
-            int apart = 0;
-            for (std::size_t i = 0; i < Look(one).Pixels.size(); ++i) {
-                const double grey = luminance(Look(one).Pixels[i]);
-                apart += std::abs(grey - luminance(Look(other).Pixels[i])) >= noticeable;
-            }
-            EXPECT_GE(apart, enough) << PictureName(one) << " and " << PictureName(other);
         }
     }
 }
