@@ -36,8 +36,9 @@ class Offscreen : public testing::Test {
         QApplication::processEvents();
     }
     QWidget* Canvas() const { return window->centralWidget(); }
-    void Key(QEvent::Type what, int key, quint32 code, bool repeats = false) const {
-        QKeyEvent event(what, key, Qt::NoModifier, code, 0, 0, {}, repeats);
+    void RightArrow(QEvent::Type what) const {
+        constexpr quint32 scanCode = 114;
+        QKeyEvent event(what, Qt::Key_Right, Qt::NoModifier, scanCode, 0, 0);
         QApplication::sendEvent(Canvas(), &event);
     }
     void Mouse(QEvent::Type what, QPointF at) const {
@@ -80,32 +81,11 @@ TEST_F(Offscreen, WhatIsPaintedAfterATickIsAllThatHasChanged) {
     for (int period = 0; period < 150; ++period) {
         game->ActiveChild.AutoMoveOn =
             period < 75; // at a broken scale a view that moves repaints all
-        if (period % 20 == 0) Key(QEvent::KeyPress, Qt::Key_Right, 114);
-        if (period % 20 == 15) Key(QEvent::KeyRelease, Qt::Key_Right, 114);
+        if (period % 20 == 0) RightArrow(QEvent::KeyPress);
+        if (period % 20 == 15) RightArrow(QEvent::KeyRelease);
         Wait(10);
         ASSERT_TRUE(same()) << "period " << period;
     }
-}
-
-TEST_F(Offscreen, AnArrowIsHeldWhileAKeyHoldsItWhateverTheKeyIsCalled) {
-    Open(Bustle(), "[AutoMove]\nMOVE=False\nMODE=2\n");
-    const HeldKeys& held = game->ActiveChild.ArrowKeys;
-    constexpr quint32 arrow = 113, pad = 83;
-    Key(QEvent::KeyPress, Qt::Key_Left, arrow);
-    Key(QEvent::KeyPress, Qt::Key_Left, pad);
-    Key(QEvent::KeyRelease, Qt::Key_Left, arrow);
-    EXPECT_TRUE(held.Holds(Heading::Left)) << "by the other key";
-    Key(QEvent::KeyRelease, Qt::Key_4, pad);
-    EXPECT_FALSE(held.Holds(Heading::Left)) << "Num Lock has changed the name";
-
-    Key(QEvent::KeyPress, Qt::Key_Left, arrow);
-    Key(QEvent::KeyRelease, Qt::Key_Left, arrow, true);
-    EXPECT_TRUE(held.Holds(Heading::Left)) << "no finger went up";
-    Canvas()->clearFocus();
-    EXPECT_FALSE(held.Holds(Heading::Left)) << "no release would come here";
-    Canvas()->setFocus();
-    Key(QEvent::KeyPress, Qt::Key_Left, arrow, true);
-    EXPECT_TRUE(held.Holds(Heading::Left)) << "the repeat says so";
 }
 
 TEST_F(Offscreen, ThePressThatBringsTheGameBackIsNone) {

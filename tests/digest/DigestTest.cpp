@@ -2,7 +2,7 @@
 // and one letter of the running hash for each period: where the letters first differ, play does.
 // When a change of play is intended, TUMBLEDEEP_WRITE_DIGEST=1 writes the file anew, and the commit
 // that moves it says why.
-#include "digest/RandomGame.h"
+#include "soak/RandomGame.h"
 
 #include <gtest/gtest.h>
 

@@ -66,31 +66,6 @@ TEST(Level, DeathTellsTheLastRecountAndTriesAgain) {
     }
 }
 
-TEST(Menu, EntriesWriteTheirSettingsAndStartAnew) {
-    using Case = std::tuple<const char*, Answers, std::string>;
-    const std::string openMap = "open .; Open; Tumbledeep map (*.TBM)|*.TBM";
-    const std::string openList = "open .; Open; Tumbledeep maplist (*.TBL)|*.TBL";
-    const std::string sure = "box 52 Are you sure you want to restart the map?";
-    const std::string startsMap = "; [Level] STARTMAP=True; " + StartsAnew;
-    const std::vector<Case> cases{
-        {"MnuLoadMap", {"Z:\\else\\far.TBM"}, openMap + "; [Level] LOAD=far.TBM" + startsMap},
-        {"MnuMapList", {"Z:\\else\\my.TBL"}, openList + "; [Level] MAPLIST=my"},
-        {"MnuRestart", {"no"}, sure},
-        {"MnuRestart", {"yes"}, sure + "; [Level] LOAD=two.TBM" + startsMap},
-        {"MnuBeginagain", {}, "read .\\Default.TBL; [Level] LOAD=level one" + startsMap},
-        {"MnuStartLastMap", {}, "[Level] STARTMAP=True"},
-        {"MnuOff", {}, "[AutoMove] MOVE=False; [AutoMove] MODE=2"},
-        {"MnuMode1", {}, "[AutoMove] MOVE=True; [AutoMove] MODE=1"},
-        {"MnuMode3", {}, "[AutoMove] MOVE=True; [AutoMove] MODE=3"}};
-    for (const auto& [entry, answers, log] : cases) {
-        Running scene(answers);
-        scene.Services.Files["Z:\\game\\Default.TBL"] = "level one\nlevel two\n";
-        scene.Take({PlayerAct::Do::Menu, entry});
-        EXPECT_EQ(scene.Services.Log, log) << entry;
-        EXPECT_EQ(scene.Ended, log.ends_with("end"));
-    }
-}
-
 } // namespace
 
 } // namespace tumbledeep

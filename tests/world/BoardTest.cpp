@@ -1,6 +1,6 @@
 // The board as a value: copies play on like their original and know nothing of one another.
-#include "digest/RandomGame.h"
 #include "formats/LoadMap.h"
+#include "soak/RandomGame.h"
 
 #include <gtest/gtest.h>
 

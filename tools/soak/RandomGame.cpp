@@ -1,5 +1,5 @@
 // Seeds divide the work: some maps are closed and some open, some all rocks and some all mines.
-#include "digest/RandomGame.h"
+#include "soak/RandomGame.h"
 
 #include <cstdlib>
 
