@@ -1,11 +1,11 @@
 // Neither toolkit nor screen is needed here, so that --help works without both.
 #include "desktop/Options.h"
 
+#include "base/Number.h"
 #include "formats/ProgramPath.h"
 #include "host/HostFiles.h"
 
 #include <algorithm>
-#include <charconv>
 #include <stdexcept>
 #include <string_view>
 
@@ -16,14 +16,12 @@ namespace fs = std::filesystem;
 namespace {
 
 int WholeFrom(std::string_view option, std::string_view text, int least, int most) {
-    int value = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (read.ec != std::errc() || read.ptr != text.data() + text.size() || value < least ||
-        value > most) {
+    const auto value = ReadInteger(text);
+    if (!value || *value < least || *value > most) {
         throw std::runtime_error(std::string(option) + " needs a whole number from " +
                                  std::to_string(least) + " to " + std::to_string(most));
     }
-    return value;
+    return static_cast<int>(*value);
 }
 
 } // namespace

@@ -45,7 +45,8 @@ class ScriptedPlatform final : public Platform {
 
   private:
     /// The next answer if there is one; throws ScriptFault unless `fits` takes it.
-    std::optional<ScriptAnswer> NextAnswer(const std::string& dialog, bool (*fits)(ScriptAnswer::To kind));
+    std::optional<ScriptAnswer> NextAnswer(const std::string& dialog,
+                                           bool (*fits)(ScriptAnswer::To kind));
     std::string ChosenPath(std::string path) const;
 
     ScriptedRun run;

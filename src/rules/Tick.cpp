@@ -19,7 +19,7 @@ void PollUnlessDead(Board& board, HeldKeys held) {
 }
 
 constexpr std::array<Due, 13> Clock{{
-    {10, Plain<&Board::CheckGameEnd>},
+    {RecountPeriod, Plain<&Board::CheckGameEnd>},
     {10, Plain<&Board::FactoryTick>},
     {10, Plain<&Board::MineLTick>},
     {10, Plain<&Board::MineFLTick>},
@@ -29,7 +29,7 @@ constexpr std::array<Due, 13> Clock{{
     {6, Plain<&Board::GemTick>},
     {6, Plain<&Board::BangTick>},
     {6, PollUnlessDead},
-    {30, Plain<&Board::ShowGemsRemaining>},
+    {StatusPeriod, Plain<&Board::ShowGemsRemaining>},
     {30, Plain<&Board::MinePPTick>},
     {20, Plain<&Board::MinePTick>},
 }};

@@ -20,10 +20,9 @@ frmDocument::frmDocument(frmMain& parent, Platform& services) : Parent(parent), 
 void frmDocument::Interval100Timer_Timer() {
     // A flip comes before whatever moves in its tick, as its place in the clock's table has it.
     const bool flips = AutoMoveOn && AutoMoveMode == ViewMode::EdgeOfScreen;
-    if (flips && NextTick() % 10 == 0) ViewEdgeTick();
+    if (flips && NextTick() % RecountPeriod == 0) ViewEdgeTick();
     const Outcome outcome = Tick(ArrowKeys);
-    constexpr int statusPeriod = 30; // as the clock's table has it
-    if (TickCount % statusPeriod == 0 && GemsShown) {
+    if (TickCount % StatusPeriod == 0 && GemsShown) {
         const std::string number = std::to_string(*GemsShown);
         Parent.Info.Panel = "Gems Remaining: " + (*GemsShown < 0 ? number : " " + number);
     }

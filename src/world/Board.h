@@ -61,6 +61,11 @@ class WalkList {
     std::size_t count = 0;
 };
 
+/// Ticks between two recounts of the gems, and between two looks at them in the status bar. The
+/// view flips by pages as often as the gems are counted.
+inline constexpr int RecountPeriod = 10;
+inline constexpr int StatusPeriod = 30;
+
 /// The periodic timer on the board: its period, in milliseconds, and its switch.
 struct Timer {
     int Interval;
