@@ -12,7 +12,7 @@ TEST(Blast, NineCells) {
             .#X^L   .#.^L   .#.^L
             .T:O.   .X...   .....
             ..OO.   ..OO.   ...O.
-        = none beyond a rock; all of one cell; none of another Bang; the player out of reach | a=: a=:
+        = none beyond a rock, all of one cell, no other Bang, the player out of reach | a=: a=:
             XOL#aX#:XX.@   ..L#..#....@
         = sprites that the grid alone tells of are passed over | a=:? b=O? c=T? d=L?
             aXb   ?.?

@@ -34,7 +34,7 @@ TEST(Clock, CycleOf301TicksServesEachKindAtItsMultiples) {
 
 TEST(Clock, OrderOnATick) {
     PlayFilms(R"(
-        = the first takes the room: L FL; FL R; R T; L rock gem; T rock Bang; gem Bang; rock PP; PP P
+        = who is first takes room: L FL; FL R; R T; L rock gem; T rock Bang; gem Bang; rock PP; PP P
             | tick:60 ^:0:movingmineL a=F:L b=R:L c=Q:L
             ###########T##*##O#*.#.O#####^#   ###########T##.##.#*.#..#####^#
             #L.a##F.b#R.##O##T#:X#Q.#P.c#.#   #.LF##.FR#.R##*##.#..#qO#PQ.#L#

@@ -15,11 +15,11 @@ TEST(Gravity, Rocks) {
             .O..O..O..O..O..O..O..O..O..O..O.   ..O..O.O..O..O..O..O..O..O..O..O.
             .O..*..:..#..T..L..R..F..P..X..@.   .O..*..:..#..T..L..R..F..P..X..@.
             ################################.   ################################.
-        = one try, on the drawn side, and the cell below the target has to be free too | draw:LR
-            #O.#O.   #O.#O.   #.O#O.
-            #*.#*:   #*.#*:   #*.#*:
-            ######   ######   ######
-        = a fall hits mines, a hidden one in that cell too, and the player; the next rock has no turn
+        = one try, on the drawn side, if there and below that is room | draw:LR
+            #O.#O.#O:   #O.#O.#O:   #.O#O.#O:
+            #*.#*:#*.   #*.#*:#*.   #*.#*:#*.
+            #########   #########   #########
+        = a fall hits mines, a hidden one there too, and the player; the next rock has no turn
             | a=L! a=L ends:dies
             #O#O#O#O#O#O#O#O#   #.#.#.#.#.#.#.#O#
             #.#.#.#.#.#.#.#.#   #.#.#.#.#.#.#O#.#

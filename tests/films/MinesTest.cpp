@@ -1,8 +1,6 @@
 // The six kinds of mine: how they walk, turn, aim, fall, and whom they kill.
 #include "support/Film.h"
 
-#include <algorithm>
-
 namespace tumbledeep {
 
 TEST(Mines, LAndRFollowWalls) {
@@ -11,7 +9,7 @@ TEST(Mines, LAndRFollowWalls) {
             .L.   L..   ...   ...   ...   ...   ...   ..L   .L.
             .#.   .#.   L#.   .#.   .#.   .#.   .#L   .#.   .#.
             ...   ...   ...   L..   .L.   ..L   ...   ...   ...
-        = blocked: the far side is taken without a look, the hand side if free; the rear of two first
+        = blocked: to the hand side if free, else to the far side; the rear of two first
             | a=L b=L c=L d=L e=L heads:RUDDR,DULRR
             #####.#@########   #####.#@########   #####L#@########
             #a.##b:##c#de..#   #.L##L:##L#L.L.#   #.L##.:##L#L..L#
@@ -27,9 +25,9 @@ TEST(Mines, LAndRFollowWalls) {
               &Board::MineLTick);
     PlayFilms(R"(
         = R keeps it at its right | b=R a=R heads:DU,DL,LD,LR,UU,UL,RD,RR
-            #.b.###   #..R###   #...###   #...###   #...###   #...###   #...###   #R..###   #.R.###
-            #.#.#a#   #.#.#R#   #.#R#R#   #.#.#R#   #.#.#R#   #.#.#R#   #R#.#R#   #.#.#R#   #.#.#R#
-            #...###   #...###   #...###   #..R###   #.R.###   #R..###   #...###   #...###   #...###)",
+            .b.###   ..R###   ...###   ...###   ...###   ...###   ...###   R..###   .R.###
+            .#.#a#   .#.#R#   .#R#R#   .#.#R#   .#.#R#   .#.#R#   R#.#R#   .#.#R#   .#.#R#
+            ...###   ...###   ...###   ..R###   .R.###   R..###   ...###   ...###   ...###)",
               &Board::MineRTick);
 }
 
@@ -43,7 +41,7 @@ TEST(Mines, FLRunsStraightAndKillsAheadAlone) {
             #:.###################   #:.###################   #:.###################
         = ahead after a step | F:L ends:dies
             @.F   @F.
-        = running right, and stopped by the player, it kills untold, before the next mine's turn | heads:UR ends:untold
+        = it kills running right: untold, and before the next mine's turn | heads:UR ends:untold
             F@   F@
             F.   F.
         = the player beside it lives, and before one whose tag is no heading | b=F:l heads:-U
@@ -55,7 +53,7 @@ TEST(Mines, FLRunsStraightAndKillsAheadAlone) {
 
 TEST(Mines, TGoesOffInTheLastFreeCellOfItsFall) {
     PlayFilms(R"(
-        = near the player, who lives for now, and near a lower one; only a Bang reused marks its cell
+        = near the player, who lives for now, or a lower one; only a Bang reused marks its cell
             #T#T#   #.#.#   #.#.#
             #.#.#   #T#X#   #.#X#
             #.#T#   #.#T#   #?#T#
@@ -82,7 +80,7 @@ TEST(Mines, PAndPPHunt) {
             Q......  .Q.....  .......  .......  .......  .......  .......  .......
             .......  .......  .Q.....  ..Q....  .......  .......  ...Q...  ....Q..
             ......@  ......@  ......@  ......@  ..Q...@  ...Q..@  ......@  ......@
-        = a blocked way costs the turn, and a cell it has not entered still reads empty; left on a tie
+        = a blocked way costs the turn, its first cell reads empty; on a tie to the left
             | a=Q:D heads:LD,DR
             Q#...#a   q#...#q   .#...#q
             .....##   .....##   Q....##

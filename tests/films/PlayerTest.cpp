@@ -16,9 +16,9 @@ void PlaySteps(const std::string& steps, bool upright, std::string_view keys) {
     for (std::string before, after; words >> before >> after;) {
         const bool ready = before == after || (upright && before != "@.");
         for (const char key : keys) {
-            std::string film =
-                std::string("= | ready:") + (ready ? "yes" : "no") + " key:" + key + "\n";
-            if (!upright) film += before + " " + after;
+            std::string film = ready ? "= | ready:yes key:" : "= | ready:no key:";
+            film += {key, '\n'};
+            if (!upright) film.append(before).append(" ").append(after);
             for (std::size_t i = 0; upright && i < before.size(); ++i) {
                 film += std::string{before[i], ' ', after[i], '\n'};
             }
@@ -46,15 +46,13 @@ TEST(Player, StepsAndPushes) {
             | tick:6 held:RLDU a=@ a=:!
             .:.   ...
             .a.   @..
-            .#.   .#.)");
+            :#.   :#.)");
 }
 
 TEST(Player, EdgesAndQuirks) {
     PlayFilms(R"(
         = nothing goes into column -1 | key:a at:0,1 ready:yes
             O@   O@
-        = column 301 | key:d at:299,1 ready:yes
-            @O   @O
         = the player enters row 0 and no further | key:w,.w at:1,0 ready:yes
             .   @   @
             @   .   .
@@ -86,6 +84,10 @@ TEST(Player, EdgesAndQuirks) {
         board.MoveYou("d");
         EXPECT_EQ(board.Pools[what][1].Left, static_cast<float>(left)) << kind << " " << tops;
     }
+    // Between two columns, pushed from one into the same, it leaves its cell free.
+    Board board = LoadMap("you 0 720\nroundrock 0 540", 1);
+    board.MoveYou("a");
+    EXPECT_EQ(board.You.Left, 360);
 }
 
 } // namespace tumbledeep
