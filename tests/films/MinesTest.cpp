@@ -80,11 +80,11 @@ TEST(Mines, PAndPPHunt) {
             Q......  .Q.....  .......  .......  .......  .......  .......  .......
             .......  .......  .Q.....  ..Q....  .......  .......  ...Q...  ....Q..
             ......@  ......@  ......@  ......@  ..Q...@  ...Q..@  ......@  ......@
-        = a blocked way costs the turn, its first cell reads empty; on a tie to the left
-            | a=Q:D heads:LD,DR
+        = a blocked way costs the turn, its first cell reads empty; it kills only after its move
+            | a=Q:D b=Q:L heads:LUD,DRR
             Q#...#a   q#...#q   .#...#q
-            .....##   .....##   Q....##
-            ......@   ......@   ......@
+            .....##   .....##   Q...Q##
+            .....b@   ....Q.@   ......@
         = any tag kills, before the next mine's turn | a=Q:x b=Q heads:-R ends:dies
             a@.b.   q@.q.)",
               &Board::MinePPTick);
