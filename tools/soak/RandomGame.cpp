@@ -2,6 +2,7 @@
 #include "soak/RandomGame.h"
 
 #include <cstdlib>
+#include <sstream>
 
 namespace tumbledeep {
 
@@ -22,17 +23,17 @@ constexpr std::string_view Letters = "w a s d w a s d p W";
 
 /// One object, now and then between two cells.
 std::string Line(Dice& dice, const std::string& keyword, int col, int row) {
+    std::ostringstream line;
     const bool aside = dice.Once(40);
-    const auto place = [&](int cell) {
-        return " " + std::to_string(cell * 360 + (aside ? dice.Below(360) : 0));
-    };
-    std::string line = keyword + place(row) + place(col);
+    line << keyword;
+    for (const int cell : {row, col}) line << ' ' << cell * 360 + (aside ? dice.Below(360) : 0);
     if (keyword == "factory") {
-        line += " " + dice.OneOf(Recipes);
+        line << ' ' << dice.OneOf(Recipes);
     } else if (keyword.starts_with("movingmine") && keyword != "movingmineT") {
-        line += " " + dice.OneOf(Tags);
+        line << ' ' << dice.OneOf(Tags);
     }
-    return line + "\n";
+    line << '\n';
+    return line.str();
 }
 
 } // namespace
