@@ -27,6 +27,8 @@ constexpr Start Starts[] = {
      "one.TBM"},
     {"a bare entry of a list", "LOAD=low", "", "", "LOAD=low.tbm; read .\\low.tbm", " - low",
      "low.tbm"},
+    {"one doubled extension goes, and no more", "LOAD=low.TBM.tbm.TBM", "", "",
+     "LOAD=low.TBM.tbm.TBM; LOAD=low.TBM.tbm; read .\\low.TBM.tbm", "", "low.TBM.tbm"},
     {"argument with a drive", "LOAD=low.tbm", "Z:\\maps\\one.TBM", "",
      "LOAD=one.TBM; LOAD=one.TBM; read Z:\\maps\\one.TBM", " - one", "one.TBM"},
     {"argument in quotes", "", "\"Z:\\my maps\\one.TBM\"", "",
@@ -64,7 +66,7 @@ TEST(StartupLoad, RoadsIntoAMap) {
         SCOPED_TRACE(start.What);
         MemoryPlatform services;
         for (const char* map : {"Z:\\maps\\one.TBM", "Z:\\my maps\\one.TBM", "Z:\\game\\one.TBM",
-                                "Z:\\game\\low.tbm"}) {
+                                "Z:\\game\\low.tbm", "Z:\\game\\low.TBM.tbm"}) {
             services.Files[map] = "you 0 0\ngem1type 0 360\n";
         }
         services.Files["Z:\\game\\all.TBL"] = "one\ntwo\n";
