@@ -1,4 +1,5 @@
-// A hash of plain values, the same on every host: for telling states apart, not for secrets.
+// A 64-bit hash, the same on every host: numbers and texts go in one after the other, Value() gives
+// what they come to. It tells states of the game apart in tests and tools and keeps no secrets.
 #pragma once
 
 #include <bit>
@@ -10,7 +11,8 @@ namespace tumbledeep {
 
 class Hash {
   public:
-    /// Takes a whole number in. The order of the numbers counts.
+    /// Takes a value in. The order of the values counts; numbers with a point count by their bits,
+    /// a text with its length.
     template <std::integral Number> constexpr void Add(Number number) {
         state = (state ^ static_cast<std::uint64_t>(number)) * 0x9E3779B97F4A7C15U;
         state ^= state >> 29U;

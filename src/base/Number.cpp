@@ -1,4 +1,5 @@
-// std::from_chars does the reading; what is ours is where a number ends, and what is out of range.
+// How numbers are read and written. std::from_chars and std::to_chars do the work; what is ours is
+// where a number ends in its text, and what counts as too large or too small.
 #include "base/Number.h"
 
 #include <algorithm>
@@ -31,8 +32,8 @@ std::size_t PassExponent(std::string_view text, std::size_t at) {
     return end > digits ? end : at;
 }
 
-/// Whether a number that is out of every range is so by being too large: the place of its first
-/// digit that counts decides.
+/// Of a number that single precision can't hold: true when it is too large, false when it is too
+/// small. The power of ten of its first digit other than 0 decides.
 bool IsLarge(std::string_view number) {
     const std::size_t mantissaEnd = std::min(number.find_first_of("eE"), number.size());
     const std::string_view mantissa = number.substr(0, mantissaEnd);

@@ -1,4 +1,6 @@
-// The one random generator, the same on every host, and a value: a copy draws on like its original.
+// The one random generator. It is a value: a copy draws on like its original, and a seed gives the
+// same numbers on every host. Each Board has one of its own; what is decided by a draw is in
+// rules/.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,5 @@
-// Single precision and 16-bit arithmetic, the same on every processor.
+// How numbers are rounded and cut, the same on every processor: single precision to whole numbers,
+// whole numbers to 16 bits. Reading numbers from text is in base/Number.h.
 #pragma once
 
 #include <algorithm>
@@ -26,7 +27,7 @@ constexpr float RoundToEven(float value) {
     return value;
 }
 
-/// A counter of 16 bits: what does not fit is cut off as the game's counters cut it.
+/// The lowest 16 bits of a number, as a counter of 16 bits keeps it.
 constexpr std::int16_t To16(int value) { return static_cast<std::int16_t>(value); }
 
 /// One more, but never past the largest number of 16 bits.

@@ -1,4 +1,5 @@
-// Plain text of ASCII letters and blanks, in no host's language. A blank is the character 32 alone.
+// Plain text: case, blanks, the byte order mark. Nothing here asks for the host's language: letters
+// are the ASCII ones, and a blank is the character 32 alone.
 #pragma once
 
 #include <algorithm>
@@ -21,7 +22,7 @@ constexpr bool SameButCase(std::string_view a, std::string_view b) {
                       [](char x, char y) { return AsciiLower(x) == AsciiLower(y); });
 }
 
-/// The text without the characters of `blanks` at both ends.
+/// The text without the characters of `blanks` at its two ends.
 constexpr std::string_view Trimmed(std::string_view text, std::string_view blanks = " ") {
     const std::size_t first = text.find_first_not_of(blanks);
     if (first == std::string_view::npos) return {};

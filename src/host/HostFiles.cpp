@@ -1,4 +1,5 @@
-// Standard library only, so that both halves share it.
+// How paths are turned, and how files are found, read and replaced whole. The standard library does
+// all of it, so that both front ends can share it.
 #include "host/HostFiles.h"
 
 #include "base/Failure.h"
@@ -16,7 +17,7 @@ namespace tumbledeep {
 namespace fs = std::filesystem;
 
 fs::path HostPath(std::string_view programPath) {
-    // A drive is the same drive in small letters.
+    // "z:" is the same drive as "Z:".
     const bool fromRoot = SameButCase(programPath.substr(0, HostDrive.size()), HostDrive);
     if (HasDrive(programPath) && !fromRoot) return {};
     std::string path(fromRoot ? programPath.substr(HostDrive.size()) : programPath);
@@ -63,7 +64,7 @@ std::string ReadFile(const fs::path& path) {
 
 namespace {
 
-/// A name for a file beside another that nothing bears yet.
+/// The path of a file that does not exist yet, in the same folder as another.
 fs::path FreeNameBeside(const fs::path& path) {
     std::error_code error;
     fs::path name = path;

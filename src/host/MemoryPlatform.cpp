@@ -1,4 +1,5 @@
-// Files are texts by name, exactly as they are asked for.
+// Answers taken from a row, files found by the very path that is asked for, and a log of all that
+// was asked.
 #include "host/MemoryPlatform.h"
 
 #include "base/Failure.h"

@@ -1,5 +1,6 @@
-// A system without files, windows or time, for tests, tools and benchmarks: its owner says what it
-// answers, and sees what it was asked.
+// A system without files, windows or time, for tests and tools: its owner says beforehand what it
+// answers, and reads afterwards what it was asked. Nothing waits and nothing fails but a file that
+// is not there. A platform that answers from a script and prints is headless/ScriptedPlatform.h.
 #pragma once
 
 #include "host/Platform.h"
@@ -17,11 +18,11 @@ class MemoryPlatform final : public Platform {
     // What the system answers.
 
     std::string CommandLine;
-    /// "yes" or "no", a text, a file's full path; "" cancels. With none left, questions get No and
-    /// other dialogs are cancelled.
+    /// The answers to the dialogs to come, in order: "yes" or "no", a text, a file's full path; ""
+    /// cancels. With none left, questions get No and other dialogs are cancelled.
     std::deque<std::string> Answers;
     std::map<std::string, std::string> Files; ///< by full path, "\" between folders
-    std::uint32_t SeedNumber = 0;
+    std::uint32_t SeedNumber = 0;             ///< for every seeding
 
     /// The text of the settings file.
     std::string& Settings() { return Files[std::string(Directory) + "\\Tumbledeep.ini"]; }

@@ -1,4 +1,6 @@
-// All that the game asks of the system it runs on.
+// All that the game asks of the system it runs on, as one interface: boxes and dialogs, the
+// process, seeds, files and settings. The desktop, the trace and MemoryPlatform implement it. What
+// the player does comes the other way, into frmMain::Take.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +12,8 @@ namespace tumbledeep {
 /// Thrown by Platform::End; caught where the front end delivered the event.
 struct ProgramEnd {};
 
-/// Styles of message boxes and the answers that count.
+/// The styles of message boxes, and their answers: Ok from the first two, Yes or No from the
+/// others.
 namespace MsgBoxStyle {
 inline constexpr int Ok = 0;
 inline constexpr int Stop = 16;
@@ -39,13 +42,14 @@ class Platform {
     Platform& operator=(const Platform&) = delete;
     virtual ~Platform() = default;
 
-    /// Shows a modal box and returns its answer. The game relies on no tick coming meanwhile.
+    /// Shows a modal box of a MsgBoxStyle and returns a MsgBoxAnswer. No tick may come meanwhile:
+    /// the front end holds the clock while any dialog is open.
     virtual int MsgBox(const std::string& text, int style) = 0;
     /// Asks for a line of text; "" when cancelled.
     virtual std::string InputBox(const std::string& prompt) = 0;
     /// Shows an open dialog and returns the full path chosen, "" when cancelled.
     virtual std::string ShowOpen(const OpenDialog& dialog) = 0;
-    /// Moves the board along with the mouse until the button is released.
+    /// From now on the mouse moves the board, until the button is released. Returns at once.
     virtual void DragBoard() = 0;
 
     /// Starts a process, its window maximised and with the focus; does not wait for its end.
@@ -60,7 +64,7 @@ class Platform {
     /// The text of the command line without the program's name.
     virtual std::string Command() const = 0;
 
-    /// What the clock gives to seed the random numbers with.
+    /// A number to seed the random numbers with, from the clock or from who runs the game.
     virtual std::uint32_t Seed() = 0;
 
     /// The bytes of a text file, for field-wise input. Throws Failure: 53 when there is no such
@@ -74,7 +78,7 @@ class Platform {
                                            std::string_view value, const std::string& path) = 0;
 
   protected:
-    /// The game is about to end the process.
+    /// Called just before End throws, for a platform that takes note of the end.
     virtual void Ending() = 0;
 };
 

@@ -1,4 +1,5 @@
-// The grid grows by strips, since a map may be written in any order.
+// The memory of the grid. It grows by strips, since a map may be written in any order, so two grids
+// of equal cells can be of unequal size; they compare by their cells.
 #include "world/Area.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
-// The grid: 301 by 301 cells, columns and rows from 0 to 300. Only the part that has ever held
-// something takes memory, so that a small map's grid copies in no time.
+// The grid: 301 by 301 cells, columns and rows from 0 to 300, each holding a kind. Only the part
+// that has ever held something takes memory, so that a small map's grid copies in no time. Where a
+// sprite stands in twips, and which cell that is, is told in Pool.h and Cell.h.
 #pragma once
 
 #include "world/Cell.h"
@@ -11,7 +12,7 @@ namespace tumbledeep {
 
 class AreaGrid {
   public:
-    static constexpr int Size = 301;
+    static constexpr int Size = 301; ///< columns, and rows
 
     /// What a cell holds. One outside the grid reads as a wall.
     Kind operator()(int col, int row) const {
@@ -33,11 +34,12 @@ class AreaGrid {
         cells[Place(cell.Col, cell.Row)] = kind;
     }
 
-    /// Columns from here on, and rows, have never held anything.
+    /// Cells in columns from UsedCols() on, and in rows from UsedRows() on, have never held
+    /// anything. Both only grow.
     int UsedCols() const { return static_cast<int>(cols); }
     int UsedRows() const { return static_cast<int>(rows); }
 
-    /// Whether all cells hold the same.
+    /// Whether all cells hold the same, however much of the two grids is kept.
     friend bool operator==(const AreaGrid& a, const AreaGrid& b);
 
   private:

@@ -1,4 +1,5 @@
-// Comparison and hash: all of the state, by the bits.
+// Comparison and hash of boards: all of the state counts, numbers by their bits. The routines of a
+// board are in rules/.
 #include "world/Board.h"
 
 #include "base/Hash.h"
@@ -16,7 +17,8 @@ std::array<Pool, PoolCount> TemplatePools(std::index_sequence<Indexes...> /*all*
     return {Pool(PoolKinds()[Indexes])...};
 }
 
-/// The plain counters and switches. Numbers with a sign of zero are compared by their bits.
+/// The plain counters and switches. Fractional numbers go by their bits, which tell the two zeros
+/// apart.
 auto Counters(const Board& board) {
     return std::tuple(
         board.Interval100Timer.Enabled, board.TickCount, std::bit_cast<std::uint32_t>(board.YouCol),

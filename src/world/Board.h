@@ -1,6 +1,8 @@
-// A running map as a value: the grid, the sprites, the player, the counters, the clock's count and
-// the random numbers. It copies, assigns and compares, and two boards never know of each other.
-// Its routines are the rules of the game; each routine's body is in rules/, in a file of its name.
+// A running map as a value: grid, sprites, player, counters, the clock's count and the random
+// numbers. It copies, assigns and compares, and two boards never know of each other. A key or a
+// tick goes in, an Outcome comes out; no box is shown and no file is touched here. The routines are
+// the rules of the game, and their bodies are in rules/. A board in a window is
+// windows/frmDocument.h.
 #pragma once
 
 #include "base/Random.h"
@@ -16,15 +18,15 @@
 
 namespace tumbledeep {
 
-/// How a map stands after a tick. What comes of it is the window's to show.
+/// How a map stands after a tick. What follows a win or a death is windows/flow/EndMap.cpp's.
 enum class Outcome : std::uint8_t {
     Running,
     Won,
     Died,
-    DiedUntold, ///< likewise, but the player is not told the gems remaining
+    DiedUntold, ///< died, and the box with the gems remaining is left out
 };
 
-/// The side to which everything rolls in one call.
+/// The side to which all of one kind roll in one call of their routine.
 enum class RollSide : std::uint8_t { Right = 1, Left = 2 };
 
 /// The pools, one for each kind that has sprites.
@@ -48,7 +50,8 @@ struct Walk {
     float Top = 0;
 };
 
-/// The steps of one call, in order: a tick polls four keys, and each makes one step at most.
+/// The steps of one tick or one key, in order. There is room for four: a tick reads four arrow
+/// keys, and each makes one step at most. One more throws std::out_of_range.
 class WalkList {
   public:
     void Clear() { count = 0; }
@@ -61,75 +64,85 @@ class WalkList {
     std::size_t count = 0;
 };
 
-/// Ticks between two recounts of the gems, and between two looks at them in the status bar. The
-/// view flips by pages as often as the gems are counted.
+/// In ticks: how often the gems are counted anew, and how often the status bar shows their number.
+/// The view that flips by pages looks at the player as often as the gems are counted.
 inline constexpr int RecountPeriod = 10;
 inline constexpr int StatusPeriod = 30;
 
-/// The periodic timer on the board: its period, in milliseconds, and its switch.
+/// The periodic timer on the board. It does not run by itself: who owns the board calls Tick.
 struct Timer {
-    int Interval;
-    bool Enabled;
+    int Interval; ///< in milliseconds
+    bool Enabled; ///< ticks come; false while the game is paused
     friend bool operator==(const Timer&, const Timer&) = default;
 };
 
 class Board {
   public:
-    /// A board with nothing but the templates, its clock running.
+    /// A board with nothing but the templates, its clock running. LoadMap in formats/ makes one
+    /// from a map.
     Board() = default;
 
     AreaGrid Area;
     PoolSet Pools; ///< index 0 of each is a hidden template
-    /// The player's sprite; the layout has it between two cells, where it stays without a start.
+    /// The player's sprite. A map without a line for the player leaves it here, between two cells;
+    /// tests/films/SetUpTest.cpp pins it.
     Sprite You{2280, 4560, TagNumber::None, true, Picture::None};
 
     Timer Interval100Timer{10, true}; ///< 10 milliseconds, whatever its name says
-    std::int16_t TickCount = 0;       ///< 0 to 300
+    std::int16_t TickCount = 0;       ///< of the last tick, 0 to 300
     float YouCol = 0;                 ///< the player's column, not rounded
-    double YouRow = 0;                ///< the player's row, whole, as large as it need be
-    std::int16_t GemTotal = 0;        ///< sprites of gems when the map was set up, template and all
+    double YouRow = 0;                ///< the player's row, a whole number of any size
+    std::int16_t GemTotal = 0;        ///< sprites of gems at set-up, the hidden template included
     std::int16_t GemsLeft = 0;        ///< as of the last recount
     std::optional<std::int16_t>
-        GemsShown; ///< what the status bar shows; none before its first time
+        GemsShown; ///< `GemsLeft` as the status bar shows it; none before the first time
     bool YouDead = false;
-    bool MoveReady = false;                 ///< the player may take a step
-    std::vector<std::int16_t> FactoryCount; ///< by index in the pool of factories, as long as that
+    bool MoveReady = false; ///< the next step key counts; without it a key is lost
+    /// By index in the pool of factories: calls of FactoryTick since the factory last made
+    /// something or found its cell taken, up to 32767.
+    std::vector<std::int16_t> FactoryCount;
 
-    // What the last call gave out; no part of the state, so it does not count in comparisons.
+    // What the last call gave out. It is no part of the state and does not count in comparisons.
 
-    Outcome Result = Outcome::Running; ///< of the last tick
-    WalkList Walks;                    ///< the steps made; the view follows by them
+    Outcome Result = Outcome::Running; ///< of the last tick, or of a routine called by itself
+    WalkList Walks;                    ///< of the last tick or key; the view follows by them
 
+    /// Whether two boards will play alike: all of the state is equal, numbers by their bits.
     friend bool operator==(const Board& a, const Board& b);
     /// Equal boards have equal hashes, on every host.
     std::uint64_t HashValue() const;
 
-    // Set-up, in the order of the calls; the loader fills the pools before.
+    // Set-up, in the order of the calls. formats/LoadMap.h makes the sprites after Randomize.
 
     /// Seeds the random numbers.
     void Randomize(std::uint32_t seed) { random.Seed(seed); }
-    /// Takes the player's cell from the sprite.
+    /// Sets `YouCol`, `YouRow` and the player's cell in `Area` from the player's sprite.
     void YouStart();
-    /// Gives the mines the pictures of their headings and counts the gems.
+    /// Gives the mines the pictures of their headings, and sets `GemTotal`.
     void ResetArea();
-    /// Stamps `Area` from the sprites, makes the board ready for play and seeds the random numbers.
+    /// Fills `Area` anew from the sprites, makes the player ready and alive, and seeds the random
+    /// numbers again.
     void ResetStart(std::uint32_t seed);
 
     // Play.
 
-    /// One tick: all routines that are due at the next value of `TickCount`, with the arrow keys
-    /// that are held. Nothing more of the tick runs once the map is won or the player is dead.
+    /// One tick, whether the timer is enabled or not: all routines that are due at the next value
+    /// of `TickCount`, with the arrow keys that are held. Nothing more of the tick runs once the
+    /// map is won or the player is dead.
     Outcome Tick(HeldKeys held);
-    /// The value of `TickCount` in the next tick. A cycle has 301 ticks: 300 and 0 are neighbours,
-    /// and both are multiples of everything.
+    /// The value of `TickCount` in the next tick. A cycle has 301 ticks: 300 and 0 follow one
+    /// another and are multiples of every period, so all routines run twice in a row there;
+    /// tests/films/ClockTest.cpp pins it.
     std::int16_t NextTick() const { return TickCount < 300 ? To16(TickCount + 1) : To16(0); }
-    /// Carries out a key: "w", "a", "s", "d" or "p"; other texts only restamp the gems.
+    /// Carries out a key: "w", "a", "s" or "d" is a step, "p" stops and starts the clock. Any key
+    /// of a ready player, one without meaning too, writes the visible gems into `Area` again.
     void MoveYou(std::string_view key);
     /// One period of the timer for a player's hands: the letters typed, one after the other, then
     /// a tick if the clock runs.
     Outcome Period(std::string_view letters, HeldKeys held);
 
-    // The routines of the clock, in its order.
+    // The routines of the clock, in its order. Each gives every sprite of its kind one turn, and
+    // leaves in `Result` whether the map is over.
 
     void CheckGameEnd();
     void FactoryTick();
@@ -140,6 +153,8 @@ class Board {
     void RockTick();
     void GemTick();
     void BangTick();
+    /// A step for each arrow key held, in the order up, down, left, right. Adds to `Walks`, which
+    /// Tick and MoveYou empty.
     void PollArrowKeys(HeldKeys held);
     void ShowGemsRemaining() { GemsShown = GemsLeft; }
     void MinePPTick();
@@ -147,27 +162,29 @@ class Board {
 
     // Words that rules share. A sprite is named by its kind and its index in the kind's pool.
 
-    /// Brings a sprite of a kind that has a pool, factories aside, into play at a position in
-    /// twips, reusing the hidden sprite with the highest index if there is one. Only then is the
-    /// cell in `Area` written. A full pool does nothing.
+    /// Brings a sprite into play at a position in twips; `tag` is the heading of a mine. The kind
+    /// must have a pool and be no factory. The hidden sprite with the highest index is used again,
+    /// and its cell in `Area` written. With none hidden a sprite is added, and its cell is not
+    /// written. Does nothing when the pool is full.
     void SpawnObject(Kind kind, float left, float top, Heading tag);
-    /// A random picture for a new sprite of a kind that draws one; the first and the last member
-    /// come half as often as the others. For other kinds nothing is drawn from the generator.
+    /// Gives a sprite a random picture if its kind has several; the first and the last come half
+    /// as often as the others. For other kinds no random number is drawn.
     void DrawPicture(Kind kind, int index);
-    /// Moves a sprite by whole cells and its kind with it in `Area`.
+    /// Moves a sprite by whole cells: its old cell in `Area` becomes empty, the new one its kind.
     void MoveSprite(Kind kind, int index, Offset offset);
     /// Hides a sprite and empties its cell.
     void TakeAway(Kind kind, int index);
     /// Sets a mine's heading and the picture that shows it.
     void Turn(Kind kind, int index, Heading heading);
-    /// Draws the side to which everything rolls in this call.
+    /// Draws a side, right or left with equal chance.
     RollSide DrawRollSide();
-    /// Rolls a sprite to a side, if the cell there and the one below it are free.
+    /// Moves a sprite one cell to a side, if the cell there and the one below that are empty.
     void Roll(Kind kind, int index, RollSide side);
-    /// True when the player stands in one of the four neighbour cells.
+    /// True when the player stands right above, below, left or right of the sprite's cell.
     bool TouchesYou(const Sprite& sprite) const;
-    /// The death of the player, which ends the tick.
+    /// The death of the player, which ends the tick. Who calls it returns at once.
     void YouDie() { Die(Outcome::Died); }
+    /// The same with the outcome given, Died or DiedUntold.
     void Die(Outcome road);
     /// Writes every visible sprite of a kind into `Area`.
     void Stamp(Kind kind);

@@ -1,4 +1,5 @@
-// The four ways: where mines head and where the player steps.
+// The four headings, in which mines go and the player steps: their letters in maps, their turns,
+// the cell ahead, and the arrow keys that are held. The step keys w, s, a, d are in rules/player/.
 #pragma once
 
 #include "world/Cell.h"
@@ -10,7 +11,7 @@
 
 namespace tumbledeep {
 
-/// In the order in which the pictures of a kind's headings stand and arrow keys are read.
+/// The order matters: pictures are stored and arrow keys are read in it.
 enum class Heading : std::uint8_t { Up, Down, Left, Right };
 
 inline constexpr std::array<Heading, 4> Headings{Heading::Up, Heading::Down, Heading::Left,
@@ -42,7 +43,7 @@ constexpr Heading RightOf(Heading heading) { return Opposite(LeftOf(heading)); }
 
 constexpr bool IsVertical(Heading heading) { return heading <= Heading::Down; }
 
-/// The letters of maps and of the trace.
+/// By heading: the letters of maps and of the trace.
 inline constexpr std::array<std::string_view, 4> HeadingLetters{"U", "D", "L", "R"};
 
 /// The heading that a letter names; none for any other text, lower case included.

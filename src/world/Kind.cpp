@@ -1,5 +1,5 @@
-// The table. Whoever adds a kind adds its row here, its picture in pictures/ and its routine in
-// rules/.
+// The table of kinds, a row for each kind that has a pool, and look-ups in it. Whoever adds a kind
+// adds its row here, its pictures in world/Picture.h and pictures/, and its routine in rules/.
 #include "world/Kind.h"
 
 #include <algorithm>
@@ -9,39 +9,46 @@ namespace tumbledeep {
 
 namespace {
 
-/// Where the templates of picture pools stand: far from every board.
+/// In twips, left and top: where the templates of kinds with pictures stand, far from every board.
 constexpr float Away = -100000;
 
+/// The two names of a kind, as in KindRow.
 struct Names {
     std::string_view Text;
-    std::string_view Pool;
+    std::string_view PoolName;
 };
 
-/// A filled square; the layout has its template at a place of its own.
+/// A kind drawn as a filled square. Its template stands at a place of its own, which shows in the
+/// trace and in a sprite whose line could not be read.
 constexpr KindRow Shape(Kind kind, Names names, int stamped, float left, float top) {
-    return {kind,    names.Text, names.Pool, TagUse::None, Picture::None, Picture::None, 0,
-            stamped, true,       left,       top};
+    return {kind,    names.Text, names.PoolName, TagUse::None, Picture::None, Picture::None, 0,
+            stamped, true,       left,           top};
 }
 
-/// Each sprite draws one of `members` pictures; nobody reads its tag.
+/// A kind whose sprites each draw one of `members` pictures, the first being `first`.
 constexpr KindRow Drawn(Kind kind, Names names, int stamped, Picture first, int members) {
-    return {kind,    names.Text, names.Pool, TagUse::None, first, Picture::None,
-            members, stamped,    false,      Away,         Away};
+    return {kind,    names.Text, names.PoolName, TagUse::None, first, Picture::None,
+            members, stamped,    false,          Away,         Away};
 }
 
-/// A mine that shows its heading, from the store of heading "U" on, once it has turned.
+/// A mine with a heading. It shows `bare` until it has a heading of the map or turns, and then one
+/// of the four pictures from `up` on.
 constexpr KindRow Headed(Kind kind, Names names, int stamped, Picture bare, Picture up) {
-    return {kind, names.Text, names.Pool, TagUse::Heading, bare, up, 0, stamped, false, Away, Away};
+    return {kind, names.Text, names.PoolName, TagUse::Heading, bare, up, 0, stamped, false,
+            Away, Away};
 }
 
-/// One look for good.
+/// A kind that shows one picture for good.
 constexpr KindRow Plain(Kind kind, Names names, int stamped, Picture look,
                         TagUse tag = TagUse::None) {
-    return {kind, names.Text, names.Pool, tag, look, Picture::None, 0, stamped, false, Away, Away};
+    return {kind, names.Text, names.PoolName, tag,  look, Picture::None,
+            0,    stamped,    false,          Away, Away};
 }
 
-// The places among the stamps decide who owns a cell that several objects share: the last. A PP
-// mine has none, so its cell reads empty until its first step; tests/films/SetUpTest.cpp pins it.
+// The numbers from 1 to 9 are the order in which kinds are written into the grid at a map's start:
+// of objects that share a cell the last one owns it. PP mines and factories have 0 and are not
+// written, so that a PP mine's cell reads empty until its first step. tests/films/SetUpTest.cpp
+// pins both.
 constexpr std::array<KindRow, PoolCount> Rows{
     Shape(Kind::HardDirt, {"harddirt", "HardDirt"}, 2, 2760, 4560),
     Shape(Kind::Dirt, {"dirt", "Dirt"}, 3, 3240, 4560),

@@ -1,4 +1,6 @@
-// The kinds of objects, and the one table of what the program knows about each.
+// The kinds of objects, and the one table of what the program knows about each: its names, its tag,
+// its pictures, its place in the grid's set-up. Nobody lists the kinds again. What the sprites of a
+// kind do is in rules/, and how they look is in pictures/.
 #pragma once
 
 #include "world/Picture.h"
@@ -10,8 +12,8 @@
 
 namespace tumbledeep {
 
-/// Thirteen of these are what a cell of the grid can hold. A factory stands on a cell that reads
-/// empty, so no cell ever holds that one.
+/// What a cell of the grid can hold, and one more: no cell ever holds Factory, as a factory stands
+/// on a cell that reads empty.
 enum class Kind : std::uint8_t {
     Empty,
     You,
@@ -46,19 +48,19 @@ struct KindRow {
     std::string_view Text;     ///< in maps, in recipes and in the cells of the trace
     std::string_view PoolName; ///< in the trace
     TagUse Tag;
-    Picture Template;   ///< of the sprite at index 0
-    Picture UpPic;      ///< the store of heading "U"; None where no heading is shown
+    Picture Template;   ///< the picture of the template, the hidden sprite at index 0
+    Picture UpPic;      ///< the first of the four pictures by heading; None where there are none
     int PictureMembers; ///< how many pictures a new sprite draws one of, from `Template` on; 0 none
-    int Stamped;        ///< place among those written into the grid at a map's start; 0 never
+    int Stamped;        ///< place in the order of writing into the grid at a map's start; 0 never
     bool IsShape;       ///< drawn on the board's own surface, under all pictures
-    float TemplateLeft; ///< where the layout has the template, in twips
+    float TemplateLeft; ///< where the template stands, in twips
     float TemplateTop;
 };
 
 /// The kinds that have a pool, by rising number.
 std::span<const KindRow, PoolCount> PoolKinds();
 
-/// The row of a kind; the kind must have a pool.
+/// The row of a kind. Throws std::out_of_range for a kind without a pool, Empty and You.
 const KindRow& RowOf(Kind kind);
 
 /// The kind's name as maps and the trace write it; "" for an empty cell, "factory" for a factory.

@@ -1,4 +1,5 @@
-// The names of the pictures, made of the names of the pools that show them.
+// The names of the pictures, as the trace prints them. They are made of the names of the pools that
+// show them, so that nobody lists them twice.
 #include "world/Picture.h"
 
 #include "world/Kind.h"

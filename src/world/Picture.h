@@ -1,5 +1,5 @@
-// The pictures by number: stores of headings, picture pools and the templates' own. What they look
-// like is told in pictures/.
+// The pictures by number. A sprite holds such a number as its look; the rules only ever copy it.
+// The drawings are in pictures/, which kind shows which is told in world/Kind.cpp.
 #pragma once
 
 #include "world/Heading.h"
@@ -10,16 +10,16 @@ namespace tumbledeep {
 
 enum class Picture : std::uint8_t {
     None, ///< a shape, which has no picture
-    // The stores of the headings, by kind in the order of Heading.
+    // Four pictures for each kind that shows its heading, in the order of Heading.
     MovingMineLUpPic,
     MovingMineRUpPic = MovingMineLUpPic + 4,
     MovingMineFLUpPic = MovingMineRUpPic + 4,
     MovingMinePUpPic = MovingMineFLUpPic + 4,
     MovingMinePPUpPic = MovingMinePUpPic + 4,
-    // The picture pools, each with room for its members behind it.
+    // The looks of gems and rocks, 6 and 7 in a row.
     GemTypePic = MovingMinePPUpPic + 4,
     RoundRockPic = GemTypePic + 6,
-    // The pictures of the templates.
+    // The only picture of T mine, factory and Bang, and the star without a heading of the others.
     MovingMineT = RoundRockPic + 7,
     MovingMineL,
     MovingMineR,
@@ -34,17 +34,17 @@ inline constexpr int PictureCount = static_cast<int>(Picture::Bang) + 1;
 inline constexpr int GemTypePicCount = 6;
 inline constexpr int RoundRockPicCount = 7;
 
-/// Member `index` of a picture pool, from 0.
+/// The picture `index` places behind the first of a row, which counts as 0.
 constexpr Picture Member(Picture pool, int index) {
     return static_cast<Picture>(static_cast<int>(pool) + index);
 }
 
-/// The store of a heading, by the store of the kind's heading "U".
+/// The picture of a heading, given the one of the same kind for Heading::Up.
 constexpr Picture HeadingPicture(Picture upPic, Heading heading) {
     return Member(upPic, static_cast<int>(heading));
 }
 
-/// The picture's name, a member of a pool with its index: "GemTypePic(3)"; "" for None.
+/// The picture's name, such as "MovingMineLUpPic", "GemTypePic(3)" or "Factory"; "" for None.
 std::string PictureName(Picture picture);
 
 } // namespace tumbledeep

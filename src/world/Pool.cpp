@@ -1,4 +1,5 @@
-// Tags as numbers, and the scans of a pool.
+// How a pool keeps tags as numbers, the scans over its sprites, and its comparison and hash. How
+// sprites are kept and changed is in the header.
 #include "world/Pool.h"
 
 #include "base/Hash.h"
@@ -11,8 +12,10 @@ namespace tumbledeep {
 namespace {
 
 constexpr TagNumber FirstHeading{1};
+/// The number of the first tag that is no heading; 1 to 4 are the headings.
 constexpr int FirstText = 5;
-/// Tags that are no heading are few and much alike; this many are looked through for an equal one.
+/// An equal text among the first ones of the pool is used again. Looking through all of them would
+/// make a map of many different recipes slow to load.
 constexpr std::size_t TextsCompared = 64;
 
 TagNumber NumberOf(Heading heading) {
@@ -88,7 +91,7 @@ void Pool::AddTo(Hash& hash) const {
         hash.Add(std::uint64_t{std::bit_cast<std::uint32_t>(sprite.Left)} << 32U |
                  std::bit_cast<std::uint32_t>(sprite.Top));
         hash.Add((static_cast<unsigned>(sprite.Look) << 1U) | unsigned{sprite.Visible});
-        // The number of another text depends on the pool's past, so the text itself counts.
+        // A text has its number by the order in which texts came in, so the text itself counts.
         const int tag = static_cast<int>(sprite.Tag);
         tag < FirstText ? hash.Add(tag) : hash.Add(TextOf(sprite.Tag));
     }

@@ -1,5 +1,7 @@
-// A growable row of sprites of one kind. Rules read it freely and change a sprite by the words
-// below alone, so that what is reckoned from the sprites can be kept beside them.
+// A pool: the growable row of sprites of one kind, from a hidden template at index 0. Rules read
+// the sprites freely and change one only by the functions below, so that a pool can keep more
+// beside the sprites, such as an index of them, and know when it changes. Pools know nothing of the
+// grid: a rule that moves a sprite writes the cells too, mostly by way of Board::MoveSprite.
 #pragma once
 
 #include "world/Heading.h"
@@ -16,18 +18,20 @@ namespace tumbledeep {
 class Hash;
 struct KindRow;
 
-/// A tag by number: none, a heading's letter, or another text that the pool keeps.
+/// The tag of a sprite by number: none, a heading's letter, or a text that the pool keeps. Only
+/// that pool can tell the text; see TagText.
 enum class TagNumber : std::uint16_t { None };
 
-/// One sprite as a pool keeps it. `Left` and `Top` are twips on the board.
+/// One sprite as a pool keeps it.
 struct Sprite {
-    float Left = 0.0F;
+    float Left = 0.0F; ///< in twips on the board, as is `Top`
     float Top = 0.0F;
     TagNumber Tag = TagNumber::None;
-    bool Visible = false;
+    bool Visible = false; ///< in play; a hidden sprite is gone, or was never there
     tumbledeep::Picture Look = Picture::None;
 
-    /// By the bits: minus zero is another place than zero.
+    /// Positions compare by their bits: minus zero is another place than zero. Only sprites of one
+    /// pool can be compared, as another pool may number its tags otherwise.
     friend bool operator==(const Sprite& a, const Sprite& b) {
         const auto bits = [](float value) { return std::bit_cast<std::uint32_t>(value); };
         return bits(a.Left) == bits(b.Left) && bits(a.Top) == bits(b.Top) && a.Tag == b.Tag &&
@@ -43,23 +47,25 @@ class Pool {
     /// A pool of one hidden sprite, the template at index 0.
     explicit Pool(const KindRow& row);
 
-    /// The number of sprites, hidden ones and the template included. It never falls.
+    /// How many sprites there are, hidden ones and the template included. It never falls.
     int Count() const { return static_cast<int>(sprites.size()); }
     bool Full() const { return Count() >= Limit; }
 
+    /// The sprite at an index from 0 to Count() - 1. The reference is good until the next Add.
     const Sprite& operator[](int index) const { return sprites[static_cast<std::size_t>(index)]; }
     auto begin() const { return sprites.begin(); }
     auto end() const { return sprites.end(); }
 
     /// The heading in a sprite's tag; none if the tag is anything else.
     std::optional<Heading> HeadingOf(int index) const;
+    /// A sprite's tag as a text, "" without one. Good until the next SetTag.
     std::string_view TagText(int index) const;
 
     /// Adds the sprite with the next index, a hidden copy of the template, and returns its index.
     /// The pool must not be full.
     int Add();
 
-    // The words that change a sprite.
+    // What changes a sprite. Positions are in twips.
 
     void PutLeft(int index, float left) { At(index).Left = left; }
     void PutTop(int index, float top) { At(index).Top = top; }
@@ -68,22 +74,22 @@ class Pool {
     void Hide(int index) { At(index).Visible = false; }
     void Dress(int index, Picture look) { At(index).Look = look; }
     void SetHeading(int index, Heading heading);
-    /// Any text, as a map has it.
+    /// Sets the tag to any text: the letter of a heading, a recipe, "" for none.
     void SetTag(int index, std::string_view text);
 
-    // What scans find.
+    // Scans. Each costs time in proportion to the pool.
 
     /// The highest index of a hidden sprite, -1 when all are visible.
     int LastHidden() const;
     /// How many sprites are hidden, the template among them.
     int HiddenCount() const;
-    /// The first index from `from` on whose sprite stands at `top` exactly and within 1 twip of
-    /// `left`, visible or not; Count() when there is none.
+    /// The first index from `from` on whose sprite stands at `top` exactly and less than 1 twip
+    /// from `left`, visible or not; Count() when there is none.
     int NextAt(int from, float left, float top) const;
 
-    /// The turns of a routine of the clock: the index of each visible sprite in rising order. The
-    /// count is read once, so a sprite added meanwhile has no turn; one hidden or brought back
-    /// meanwhile counts as it is when its index comes up.
+    /// The turns of a routine of the clock: the index of each visible sprite, rising. The count is
+    /// read once, so a sprite added meanwhile has no turn. Whether a sprite is visible is asked
+    /// when its index comes up, so one that is shown or hidden meanwhile still gains or loses it.
     class Turns {
       public:
         class Iterator {
@@ -125,7 +131,7 @@ class Pool {
     std::string_view TextOf(TagNumber tag) const;
 
     std::vector<Sprite> sprites;
-    std::vector<std::string> texts; ///< the tags that are no heading
+    std::vector<std::string> texts; ///< tags that are no heading, by TagNumber from 5 on
 };
 
 } // namespace tumbledeep
