@@ -1,4 +1,6 @@
-// Turns the sprites of a map into the board that is played.
+// Turns the sprites that the lines of a map have made into the board that is played: pictures of
+// headings, number of gems, grid, player's cell. Reading the lines is formats/LoadMap.cpp's, and
+// which kinds are written into the grid in which order is told in world/Kind.cpp.
 #include "world/Board.h"
 
 #include <algorithm>
@@ -16,7 +18,7 @@ void Board::ResetArea() {
         if (row.UpPic == Picture::None) continue;
         Pool& mines = Pools[row.Which];
         for (const int mine : mines.InTurn()) {
-            // A tag that is no heading leaves the bare star.
+            // A tag that is no heading leaves the star without one.
             if (const auto heading = mines.HeadingOf(mine)) Turn(row.Which, mine, *heading);
         }
     }

@@ -1,4 +1,6 @@
-// New objects during play. Pools never shrink: a hidden sprite is a free one, the template too.
+// New objects during play: what a factory makes, and each Bang. A hidden sprite is used again if
+// there is one, the template too, or else the pool grows. A map's own objects come in by
+// formats/LoadMap.cpp, which shares the drawing of a picture.
 #include "world/Board.h"
 
 namespace tumbledeep {
@@ -15,8 +17,8 @@ void Board::SpawnObject(Kind kind, float left, float top, Heading tag) {
     pool.Show(index);
     DrawPicture(kind, index);
     if (IsMine(kind)) pool.SetHeading(index, tag);
-    // A quirk that maps play with: a new sprite leaves its cell as it is, so that what a factory
-    // brings out may stand unseen by the rules until it moves; tests/films/FactoryTest.cpp pins it.
+    // A quirk that maps play with: an added sprite leaves its cell as it is, so that what a factory
+    // makes may stand unseen by the rules until it moves; tests/films/FactoryTest.cpp pins it.
     if (reused) Area.Set(CellOf(pool[index]), kind);
 }
 

@@ -1,4 +1,5 @@
-// The moves that several rules share. A move keeps a sprite and its cell in step.
+// What several rules do to a sprite: move, take away, turn, roll. A move keeps the sprite and its
+// cell in the grid in step. What only one rule does stands in that rule's file.
 #include "world/Board.h"
 
 #include <algorithm>

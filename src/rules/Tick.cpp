@@ -1,5 +1,6 @@
-// The clock's table. The order of its rows is a rule of the game: what stands first on a tick sees
-// the board as the tick before has left it.
+// One tick of the clock: a table says which routines are due and in which order. The order is a
+// rule of the game, since a routine sees the board as those before it on the same tick have left
+// it. Who calls Tick, and how often, is the front end's; what shows in the window is frmDocument's.
 #include "world/Board.h"
 
 namespace tumbledeep {

@@ -1,11 +1,13 @@
-// The life of a Bang: it waits for the next call, spreads once and is gone.
+// The life of a Bang: it stands until the next call, spreads once and is gone. What a blast does to
+// the cells round it is SpreadBang's.
 #include "rules/gravity/SpreadBang.h"
 
 namespace tumbledeep {
 
 void Board::BangTick() {
-    // A Bang spawned as a new sprite waits for the next call; one spawned into a hidden sprite
-    // further on is served in this one. Chains take their time by it.
+    // A blast makes Bangs of mines. One that is a new sprite has its turn in the next call, one
+    // that is a hidden sprite further on in this one. So it depends on the pool how fast a chain
+    // runs; tests/films/BlastTest.cpp pins it.
     for (const int bang : Pools[Kind::Bang].InTurn()) {
         SpreadBang(*this, bang);
         if (Result != Outcome::Running) return;

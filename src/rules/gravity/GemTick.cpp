@@ -1,4 +1,5 @@
-// The gravity of gems: that of rocks without the violence.
+// One turn for each gem: it falls a cell, is taken by the player below it, rolls to a side, or
+// rests. Gems hurt nobody. Their number is CheckGameEnd's to count.
 #include "world/Board.h"
 
 namespace tumbledeep {
@@ -9,7 +10,7 @@ void Board::GemTick() {
     for (const int gem : gems.InTurn()) {
         switch (Area(CellOf(gems[gem], Below))) {
         case Kind::Empty: MoveSprite(Kind::Gem1Type, gem, Below); break;
-        case Kind::You: TakeAway(Kind::Gem1Type, gem); break; // whether it was moving or not
+        case Kind::You: TakeAway(Kind::Gem1Type, gem); break; // one at rest too
         case Kind::Gem1Type:
         case Kind::RoundRock:
         case Kind::MovingMineT: Roll(Kind::Gem1Type, gem, side); break;

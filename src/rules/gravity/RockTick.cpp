@@ -1,13 +1,15 @@
-// The gravity of rocks. There is no falling state: a rock falls when its turn finds the cell below
-// empty, and only the turn in which it has fallen can hurt.
+// One turn for each rock: it falls a cell, rolls to a side, or rests. No state tells a falling rock
+// from a resting one: a rock falls when the cell below it is empty, and only in the turn in which
+// it has fallen can it kill or hit a mine. Pushing rocks is player/Push.cpp's.
 #include "world/Board.h"
 
 namespace tumbledeep {
 
 namespace {
 
-/// A rock that has just fallen onto a mine of that kind. A hidden mine left in that very cell
-/// counts like a visible one, with a Bang for each; tests/films/GravityTest.cpp pins it.
+/// A rock that has just fallen, with a mine of that kind in the cell below: both go, and a Bang
+/// comes in the mine's place. A hidden mine left in that cell counts like a visible one and gets a
+/// Bang of its own; tests/films/GravityTest.cpp pins it.
 void HitMine(Board& board, int rock, Kind kind) {
     Pool& rocks = board.Pools[Kind::RoundRock];
     Pool& mines = board.Pools[kind];
@@ -23,7 +25,7 @@ void HitMine(Board& board, int rock, Kind kind) {
     }
 }
 
-/// What a rock that has just fallen does to the cell now below it.
+/// What a rock that has just fallen does to what is now below it.
 void Land(Board& board, int rock) {
     const Kind below = board.Area(CellOf(board.Pools[Kind::RoundRock][rock], Below));
     if (below == Kind::You) board.YouDie();

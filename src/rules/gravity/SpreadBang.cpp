@@ -1,17 +1,19 @@
-// Dirt and rocks go, mines blow up in their turn, the player dies. Gems, walls, factories and other
-// Bangs stay.
+// A blast goes over its nine cells in a fixed order. Dirt and rocks go, mines become Bangs, the
+// player dies; gems, walls, factories and other Bangs stay.
 #include "rules/gravity/SpreadBang.h"
 
 namespace tumbledeep {
 
 namespace {
 
-/// In the order in which the cells are taken: each sees what those before it have left.
+/// The order in which the cells are taken, each as those before it have left it: it decides which
+/// mine gets which Bang of the pool, and what is gone when the player dies.
+/// tests/films/BlastTest.cpp pins it.
 constexpr std::array<Offset, 9> Block{
     Here,           Below,         Above, ToRight, ToLeft, ToRight + Below, ToRight + Above,
     ToLeft + Below, ToLeft + Above};
 
-/// Takes the visible sprites of a kind that stand at a place in twips.
+/// Takes away the visible sprites of a kind at a place in twips, and makes a Bang of each mine.
 void BlowUp(Board& board, Kind kind, float left, float top) {
     Pool& pool = board.Pools[kind];
     const int count = pool.Count();
@@ -30,7 +32,7 @@ void SpreadBang(Board& board, int bang) {
     // A copy: the pool of Bangs may grow while this one spreads.
     const Sprite centre = board.Pools[Kind::Bang][bang];
     for (const Offset offset : Block) {
-        // `Area` alone decides which pool is looked at.
+        // The grid alone tells what is there: a sprite under another kind's mark is spared.
         const Kind kind = board.Area(CellOf(centre, offset));
         if (kind == Kind::You) return board.YouDie();
         if (!IsMine(kind) && kind != Kind::Dirt && kind != Kind::RoundRock) continue;

@@ -1,11 +1,13 @@
-// The aim looks at positions in twips, not at cells, and not at whether there is room that way.
+// How P and PP mines step and aim. The aim goes by positions in twips, not by cells, and does not
+// ask whether there is room that way.
 #include "rules/mines/Hunter.h"
 
 namespace tumbledeep {
 
 namespace {
 
-/// A horizontal heading gives way to a vertical one and the reverse; ties go up and left.
+/// The next heading towards the player: up or down after a level one, left or right after an
+/// upright one. On a tie it is up or left; tests/films/MinesTest.cpp pins it.
 Heading Aim(Heading present, const Sprite& mine, const Sprite& you) {
     if (!IsVertical(present)) return you.Top > mine.Top ? Heading::Down : Heading::Up;
     return you.Left > mine.Left ? Heading::Right : Heading::Left;

@@ -1,19 +1,21 @@
-// The straight runner: it turns only when stopped, and kills only what is straight ahead.
+// One turn for each FL mine, the straight runner: it steps ahead, turns only when its way is
+// blocked, and kills only what is straight ahead of it.
 #include "world/Board.h"
 
 namespace tumbledeep {
 
 namespace {
 
-/// What a block does when the way ahead is not free.
+/// What a mine of one heading does.
 struct Block {
-    Heading Own;
-    Heading Tested; ///< taken if the cell there is empty
-    Heading Other;  ///< taken otherwise, without a look
+    Heading Own;    ///< the heading, in which it steps if it can
+    Heading Tested; ///< turned to when blocked, if the cell there is empty
+    Heading Other;  ///< turned to otherwise, empty or not
 };
 
-// In the order in which the blocks run. The tag is read anew before each, so a turn from a
-// horizontal heading to a vertical one is served in the same call, and the reverse is not.
+// In this order, each block asks whether the mine has its heading now. So a mine that turns from
+// right or left to down or up comes to a second block in the same turn and may step at once, and
+// one that turns the other way does not; tests/films/MinesTest.cpp pins it.
 constexpr std::array<Block, 4> Blocks{{{Heading::Right, Heading::Down, Heading::Up},
                                        {Heading::Left, Heading::Down, Heading::Up},
                                        {Heading::Up, Heading::Left, Heading::Right},
@@ -39,8 +41,8 @@ void Board::MineFLTick() {
     for (const int mine : mines.InTurn()) {
         for (const Block& block : Blocks) {
             if (mines.HeadingOf(mine) != block.Own || !RunBlock(*this, mine, block)) continue;
-            // A mine that kills running right has never told the gems remaining;
-            // tests/films/MinesTest.cpp pins it.
+            // A quirk that players know: killed by a mine that runs right, they are not told the
+            // gems remaining; tests/films/MinesTest.cpp pins it.
             return Die(block.Own == Heading::Right ? Outcome::DiedUntold : Outcome::Died);
         }
     }

@@ -1,4 +1,5 @@
-// The hunter that takes a fresh aim at every turn and closes in on a staircase.
+// One turn for each PP mine, the hunter that aims anew every time and so closes in on the player on
+// a staircase. It kills what stands next to it in the end. The step and the aim are Hunter's.
 #include "rules/mines/Hunter.h"
 
 namespace tumbledeep {

@@ -1,4 +1,5 @@
-// The hunter that runs straight on and turns towards the player only when blocked.
+// One turn for each P mine, the hunter that runs straight on and turns towards the player only when
+// blocked. It kills what stands next to it in the end. The step and the aim are Hunter's.
 #include "rules/mines/Hunter.h"
 
 namespace tumbledeep {
@@ -6,7 +7,8 @@ namespace tumbledeep {
 void Board::MinePTick() {
     const Pool& mines = Pools[Kind::MovingMineP];
     for (const int mine : mines.InTurn()) {
-        // The tag is read anew for each, so a turn to up or down is tried in the same call.
+        // Each asks for the heading that the mine has by now: a turn to up or down is tried in the
+        // same call, one to left or right is not; tests/films/MinesTest.cpp pins it.
         for (const Heading heading : {Heading::Right, Heading::Left, Heading::Up, Heading::Down}) {
             if (mines.HeadingOf(mine) != heading) continue;
             HunterBlock(*this, Kind::MovingMineP, mine, heading, Aims::WhenBlocked);

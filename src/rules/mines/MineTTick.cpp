@@ -1,11 +1,12 @@
-// The falling bomb: it moves like a rock and goes off in the last free cell of its fall.
+// One turn for each T mine, the falling bomb: it falls and rolls like a rock, and goes off in the
+// last empty cell of its fall. It kills by its Bang alone; pushing it is player/Push.cpp's.
 #include "world/Board.h"
 
 namespace tumbledeep {
 
 namespace {
 
-/// One cell down; with anything but a free cell below that, the mine goes off there.
+/// One cell down. If the next cell below is not empty, the mine goes off where it is then.
 void Fall(Board& board, int mine) {
     Pool& mines = board.Pools[Kind::MovingMineT];
     const Sprite& sprite = mines[mine];

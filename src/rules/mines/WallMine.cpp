@@ -1,4 +1,5 @@
-// L and R mines differ in one thing, the hand at which they keep their wall.
+// How a patrol walks: ahead while it can, round each corner that opens at its hand, and on the spot
+// when it is blocked. L and R mines differ in one thing, the hand at which they keep their wall.
 #include "rules/mines/WallMine.h"
 
 namespace tumbledeep {
@@ -15,7 +16,7 @@ void TakeTurn(Board& board, Kind kind, int mine, Heading heading, Heading hand) 
         board.MoveSprite(kind, mine, Ahead(heading));
         if (isFree(hand)) board.Turn(kind, mine, hand);
     } else {
-        // The far side is taken without a look.
+        // It turns to the far side even if that is blocked; tests/films/MinesTest.cpp pins it.
         board.Turn(kind, mine, isFree(hand) ? hand : Opposite(hand));
     }
 }

@@ -1,5 +1,6 @@
-// A key becomes a step. A step is whole in one call; a key that finds the player not ready is lost.
-// `Area` alone decides whether a step happens; the pools are only scanned for the sprites.
+// A key becomes a step of the player, or a pause. A step is whole in one call; a key that finds the
+// player not ready is lost. The grid alone decides whether a step happens; pools are only searched
+// for the sprites to take. Pushing is Push.cpp's, the arrow keys come by PollArrowKeys.cpp.
 #include "rules/player/Push.h"
 #include "rules/player/StepKeys.h"
 
@@ -24,8 +25,9 @@ void Advance(Board& board, Heading way) {
     board.Walks.Add({way, board.You.Left, board.You.Top});
 }
 
-/// Whether a sprite lies where the player, having walked that way, takes it. To the left the test
-/// is a cell wider, and takes a sprite in the cell just left as well.
+/// Whether a player who has just walked that way takes a sprite. To the left the test is a cell
+/// wider than to the right: what lies in the cell that the player has come from is taken as well.
+/// tests/films/PlayerTest.cpp pins it.
 bool Takes(const Sprite& sprite, Heading way, const Sprite& you) {
     switch (way) {
     case Heading::Left:
@@ -37,9 +39,10 @@ bool Takes(const Sprite& sprite, Heading way, const Sprite& you) {
     }
 }
 
-/// Hides what the player has walked onto; hidden sprites are not passed over. Up and down end at
-/// the first match and leave the player ready: one may run along a column that was once dirt.
-/// tests/films/PlayerTest.cpp pins all of it.
+/// Hides the sprites of a kind that the player has walked onto. Sprites that are hidden already
+/// count too. A step up or down ends at the first one and leaves the player ready, so that a column
+/// that was once dirt can be run along; all other steps cost the tick. tests/films/PlayerTest.cpp
+/// pins all of it.
 void TakeFrom(Board& board, Kind kind, Heading way) {
     Pool& pool = board.Pools[kind];
     for (int i = 0; i < pool.Count(); ++i) {
@@ -63,7 +66,8 @@ void Board::Step(std::string_view key) {
         if (!Interval100Timer.Enabled) MoveReady = false;
     }
     if (!MoveReady) return;
-    // A gem whose cell something has overwritten comes back, on any key.
+    // Any key brings back gems whose cells something has overwritten;
+    // tests/films/PlayerTest.cpp pins it.
     Stamp(Kind::Gem1Type);
 
     const auto* const found = std::find(StepKeys.begin(), StepKeys.end(), key);

@@ -1,10 +1,12 @@
-// The polled road of the keys: state, no events, no memory.
+// The arrow keys that are held become steps, each as its letter would. The clock asks for them;
+// keys that are typed come by MoveYou.
 #include "rules/player/StepKeys.h"
 
 namespace tumbledeep {
 
 void Board::PollArrowKeys(HeldKeys held) {
-    // All four are read at every poll: a first step that leaves the player ready allows a second.
+    // All four are read every time: a first step that leaves the player ready allows a second;
+    // tests/films/PlayerTest.cpp pins it.
     for (const Heading way : Headings) {
         if (held.Holds(way)) Step(KeyOf(way));
     }

@@ -1,5 +1,5 @@
-// `Area` decides whether a push happens, once for rocks and then for T mines; the pools are only
-// scanned for the sprites.
+// A push is decided by the grid alone, once for rocks and then once for T mines. Pools are only
+// searched for the sprites to move.
 #include "rules/player/Push.h"
 
 #include <cmath>
@@ -8,8 +8,8 @@ namespace tumbledeep {
 
 namespace {
 
-/// Whether a sprite stands in the player's row. A T mine between two rows counts for the upper
-/// one, a rock for the nearer one; tests/films/PlayerTest.cpp pins it.
+/// Whether a sprite stands in the player's row. Between two rows a T mine belongs to the upper one
+/// and a rock to the nearer one; tests/films/PlayerTest.cpp pins it.
 bool InRow(Kind kind, const Sprite& sprite, double youRow) {
     const float row = GridPlace(sprite.Top);
     return (kind == Kind::RoundRock ? RoundToEven(row) : std::trunc(row)) == youRow;
@@ -28,12 +28,14 @@ void PushKind(Board& board, Kind kind, Heading way) {
         const Sprite& sprite = pool[index];
         const bool inColumn = std::trunc(GridPlace(sprite.Left)) == std::trunc(targetCol);
         if (!inColumn || !InRow(kind, sprite, board.YouRow)) continue;
-        // The new cell first: a sprite between two cells may name one and the same for both.
+        // The new cell first: rounding can give a sprite between two cells one and the same for
+        // both, and then it reads empty.
         board.Area.Set(CellOf(sprite, step), kind);
         board.Area.Set(CellOf(sprite), Kind::Empty);
         pool.Move(index, step);
     }
-    board.MoveReady = false; // even when no sprite was there
+    // Even when no sprite was there; tests/films/PlayerTest.cpp pins it.
+    board.MoveReady = false;
 }
 
 } // namespace
