@@ -1,4 +1,5 @@
-// Lines end in CR LF, LF alone or CR alone.
+// How a text is cut into records, and how lines and columns are counted on the way. The rules of
+// records are told in the header.
 #include "formats/FieldInput.h"
 
 #include "base/Text.h"

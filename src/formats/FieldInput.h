@@ -1,4 +1,6 @@
-// Field-wise text input: a file as a row of records that end at a comma or a line end.
+// Field-wise text input, by which maps and map lists are read: the bytes of a file go in, records
+// come out that end at a comma or a line end. What a record says is told in MapText.h and
+// MapList.h.
 #pragma once
 
 #include <string>
@@ -6,37 +8,41 @@
 
 namespace tumbledeep {
 
-/// A record and where it begins in its file, both counted from 1; columns count bytes.
+/// A record and where it begins in its file.
 struct Record {
-    std::string Text;
-    int Line = 1;
-    int Column = 1;
+    std::string Text; ///< without the quotes, if it stands in quotes
+    int Line = 1;     ///< from 1
+    int Column = 1;   ///< in bytes, from 1; the opening quote's, if there is one
 };
 
 class FieldInput {
   public:
     FieldInput() = default;
-    /// Takes the bytes of the file; a UTF-8 byte order mark in front is passed over.
+    /// Takes the bytes of the file. Lines end in CR LF, LF alone or CR alone; a UTF-8 byte order
+    /// mark in front is passed over.
     explicit FieldInput(std::string bytes);
 
-    /// True when no record is left. A file that ends in a line end has none behind it.
+    /// True when no record is left. Behind a line end at the file's end there is none.
     bool AtEnd() const { return position >= text.size(); }
 
     /// The next record, without the blanks before it. One in double quotes runs to the next quote,
-    /// over commas and line ends, and what follows it up to its end is dropped. "" at the end.
+    /// over commas and line ends; what stands behind that up to a comma or line end is dropped. A
+    /// record with an empty text when none is left.
     Record Next();
 
   private:
+    /// The text from here up to one of these characters or the end; here is behind it then.
     std::string_view Until(std::string_view stops);
+    /// Steps over the comma or line end that stands here.
     void PassDelimiter();
-    /// Counts the line ends between the last place counted and here.
+    /// Counts the line ends up to here.
     void CountLines();
 
     std::string text;
-    std::size_t position = 0;
-    std::size_t counted = 0;   ///< up to where lines are counted
-    std::size_t lineStart = 0; ///< where the line of that place begins
-    int line = 1;
+    std::size_t position = 0;  ///< "here": the first byte that is not read yet
+    std::size_t counted = 0;   ///< up to where line ends are counted
+    std::size_t lineStart = 0; ///< where the line at `counted` begins
+    int line = 1;              ///< the number of that line
 };
 
 } // namespace tumbledeep

@@ -1,4 +1,5 @@
-// The loader knows nothing of cells: it copies positions, and set-up fills the grid afterwards.
+// Makes sprites of a map's lines. It knows nothing of cells: positions are copied as they stand,
+// and the board's set-up fills the grid from the sprites afterwards.
 #include "formats/LoadMap.h"
 
 #include "base/Failure.h"

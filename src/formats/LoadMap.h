@@ -1,4 +1,6 @@
-// From the text of a map to the board that is played, without a window or a host.
+// From the text of a map to the board that is played, without a window or a host: what a solver, a
+// test or a benchmark needs. The window loads line by line, as it shows titles and places its view;
+// see windows/flow/LoadNewMap.cpp.
 #pragma once
 
 #include "formats/MapText.h"
@@ -10,12 +12,14 @@
 
 namespace tumbledeep {
 
-/// Puts a line's object onto the board: one sprite, or the player's place. Throws Failure at a
-/// line's fault or when a pool is full; what was made before the fault stays, the sprite hidden.
+/// Puts a line's object onto the board: one sprite, or the player's place; a line without an object
+/// does nothing. The line's fault or a full pool is thrown as Failure. What was made before the
+/// fault stays, the sprite hidden.
 void PutOnBoard(Board& board, const MapLine& line);
 
-/// Plays the part of the loader: all lines, then the board's set-up. Both seedings of the random
-/// numbers take `seed`. Throws Failure as PutOnBoard does; titles say nothing here.
+/// Reads all lines of a map's bytes and sets the board up. The random numbers are seeded with
+/// `seed` twice: before the lines, which draw pictures, and for play. Throws Failure as PutOnBoard
+/// does. Titles are passed over.
 Board LoadMap(std::string bytes, std::uint32_t seed);
 
 } // namespace tumbledeep

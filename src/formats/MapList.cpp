@@ -1,4 +1,5 @@
-// Names are compared by character code.
+// How the bytes of a list become names, and how a finished map is searched for. Lists are cut into
+// records by FieldInput, as maps are.
 #include "formats/MapList.h"
 
 #include <algorithm>

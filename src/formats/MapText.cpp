@@ -1,4 +1,5 @@
-// Words stand exactly one blank apart: two blanks in a row make an empty word, which is no number.
+// How a line of a map is cut into words and numbers. Words stand exactly one blank apart: two
+// blanks in a row make an empty word, which is no number.
 #include "formats/MapText.h"
 
 #include "base/Failure.h"
@@ -10,7 +11,8 @@ namespace {
 
 constexpr std::string_view Title = "title ";
 
-/// Reads a word that must be a number as a whole; the first that is none becomes the fault.
+/// The number that a word of the line is. The first word that is none becomes the line's fault, and
+/// nothing is read from then on.
 std::optional<float> TakeNumber(MapLine& line, const Record& record, std::string_view word) {
     if (line.Fault) return std::nullopt;
     const NumberPrefix number = ReadNumber(word);
@@ -43,8 +45,8 @@ MapLine ReadMapLine(const Record& record) {
     line.Which = *kind;
     const std::string_view second = WordAt(text, first.size() + 2);
     const std::string_view last = LastWord(text);
-    // With a tag the second number is the third word; without one it is the last, whatever stands
-    // in between.
+    // In a line with a tag the second number is the third word, in others the last word, whatever
+    // stands in between; tests/formats/MapTextTest.cpp pins it.
     const bool tagged = *kind != Kind::You && RowOf(*kind).Tag != TagUse::None;
     line.Top = TakeNumber(line, record, second);
     line.Left =

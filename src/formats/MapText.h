@@ -1,4 +1,5 @@
-// A map's text as values: each record becomes what it says, with its place in the file.
+// The lines of a map as values: a record goes in, and what it says comes out, an object, a title or
+// nothing, with its fault if it has one. Nothing is put on a board here: that is LoadMap's.
 #pragma once
 
 #include "formats/FieldInput.h"
@@ -12,30 +13,32 @@ namespace tumbledeep {
 
 /// What is wrong with a number of a line.
 struct MapFault {
-    int Number;       ///< of the failure that the player is shown
-    std::string Word; ///< the word that is no number, or too large a one
-    int Column;       ///< where that word stands in its line, from 1
+    int Number;       ///< Failure::TypeMismatch, or Failure::Overflow for a number too large
+    std::string Word; ///< the word at fault, "" where one is missing
+    int Column;       ///< where that word stands in its line, in bytes from 1
 };
 
-/// A line of a map. What a faulty one has before its fault is kept, since it stays on the board.
+/// A line of a map. What a faulty one has before its fault is kept, since it is put on the board.
 struct MapLine {
     enum class Is { Nothing, Title, Object };
     Is What = Is::Nothing;
-    int Line = 1;
-    Kind Which = Kind::Empty; ///< of an object, the player and factories included
-    std::optional<float> Top; ///< twips; empty from the fault on
-    std::optional<float> Left;
-    std::string Text;              ///< of a title; the tag of an object that has one
-    std::optional<MapFault> Fault; ///< at the first number that can't be read
+    int Line = 1;                  ///< in the file, from 1
+    Kind Which = Kind::Empty;      ///< of an object; never Empty or Bang then
+    std::optional<float> Top;      ///< of an object, in twips; none from the fault on
+    std::optional<float> Left;     ///< likewise
+    std::string Text;              ///< a title's text, or the tag of an object that has one
+    std::optional<MapFault> Fault; ///< the first number that can't be read
 };
 
-/// Reads one record. An unknown first word, an empty one or a title without a text says nothing.
+/// Reads one record. A first word that is unknown or empty, and a title without a text, make a line
+/// that says nothing.
 MapLine ReadMapLine(const Record& record);
 
-/// The word that begins at a character, counted from 1; "" at a blank or behind the end.
+/// The word that begins at a character, counted from 1, and ends before the next blank; "" when a
+/// blank stands there, or nothing.
 std::string_view WordAt(std::string_view text, std::size_t start);
 
-/// What stands behind the last blank.
+/// What stands behind the last blank: "" if the text ends in one, all of it if it has none.
 std::string_view LastWord(std::string_view text);
 
 } // namespace tumbledeep

@@ -1,4 +1,5 @@
-// A text is read into lines, and a change puts one line in the place of another.
+// A settings text is read into lines, each with its place in the text; a change puts one line in
+// the place of another.
 #include "formats/Profile.h"
 
 #include "base/Text.h"

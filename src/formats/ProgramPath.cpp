@@ -1,4 +1,5 @@
-// Nothing here asks the host: a path is text.
+// The few cuts of a file name that the header tells. Nothing here asks the host: a path is text,
+// and whether a file is there is not looked at.
 #include "formats/ProgramPath.h"
 
 namespace tumbledeep {

@@ -1,4 +1,5 @@
-// One entry to a line, one blank between words.
+// How the lines of a script are read: one entry to a line, one blank between words, and tables of
+// the words that there are.
 #include "formats/Script.h"
 
 #include "base/Number.h"

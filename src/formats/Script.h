@@ -1,4 +1,5 @@
-// A script that stands in for the player's hands: answers to dialogs, and events by step.
+// A script that stands in for the player's hands: its text goes in, answers to dialogs and acts by
+// step come out. docs/SCRIPT.md tells the lines. Playing a script is headless/Play.h's.
 #pragma once
 
 #include "formats/PlayerAct.h"
@@ -12,43 +13,47 @@
 
 namespace tumbledeep {
 
-/// A script that can't be read or does not fit what the program asks; the text is one whole line.
+/// Thrown for a script that can't be read, or whose answer does not fit what the program asks. The
+/// text is one line for the user: name, line and fault.
 struct ScriptFault : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// The answer to one dialog.
 struct ScriptAnswer {
     enum class To { Yes, No, Text, File, Cancel };
     To What;
-    std::string Text;
-    int Line;
+    std::string Text; ///< the text typed, or the path of the file
+    int Line;         ///< of the script, from 1
 };
 
+/// One thing that the player does, and when.
 struct ScriptEvent {
-    std::int64_t Step;
+    std::int64_t Step; ///< the period of the timer before which it happens, from 1
     PlayerAct Act;
-    int Line;
+    int Line; ///< of the script, from 1
 };
 
 struct Script {
-    std::string Name; ///< as faults name it
-    std::deque<ScriptAnswer> Answers;
-    std::deque<ScriptEvent> Events;
+    std::string Name;                 ///< as faults name it
+    std::deque<ScriptAnswer> Answers; ///< in the order of the dialogs
+    std::deque<ScriptEvent> Events;   ///< by rising step
 
     /// A fault at a line of this script.
     ScriptFault Fault(int line, const std::string& what) const;
 };
 
-/// Reads a whole script. Throws ScriptFault at the first line that does not fit; `isEntry` tells
-/// the names of menu entries that can be chosen.
+/// Reads the text of a script, which faults call by `name`. Throws ScriptFault at the first line
+/// that can't be read. `isEntry` tells whether a menu entry of a name can be chosen.
 Script ReadScript(const std::string& name, std::string_view text,
                   bool (*isEntry)(std::string_view menuEntry));
 
-/// A size such as 15360x11520, in twips; none if the text is anything else.
+/// A size of a window in twips.
 struct ScriptSize {
     float Width;
     float Height;
 };
+/// A size such as "15360x11520"; none if the text is anything else or a number is negative.
 std::optional<ScriptSize> ReadSize(std::string_view text);
 
 } // namespace tumbledeep

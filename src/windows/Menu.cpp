@@ -1,4 +1,5 @@
-// The menu's entries by name, and the handlers that belong to no other room.
+// The menu's entries by name, and what those do that stand in no file of their own: opening a map,
+// setting a list, restarting, the check mark. The tree itself is made in frmMain.cpp.
 #include "formats/ProgramPath.h"
 #include "host/Platform.h"
 #include "windows/Settings.h"

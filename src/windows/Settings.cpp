@@ -1,4 +1,5 @@
-// No copy of the file lives in the program: each call reads or writes it anew.
+// The way from the game's keys to the settings file and back: the file's name, the case of keys,
+// the longest value. Each call reads or writes the file anew.
 #include "windows/Settings.h"
 
 #include "base/Text.h"
@@ -8,7 +9,8 @@ namespace tumbledeep {
 
 namespace {
 
-/// What the service's buffer takes beside the character of code 0 at its end.
+/// Of a longer value only so many characters count: settings were always read into a buffer of 750
+/// with a 0 at its end.
 constexpr std::size_t LongestValue = 749;
 
 std::string InCase(std::string_view key, char (*letter)(char)) {

@@ -1,6 +1,6 @@
-// The settings file, which is also the only channel from one process of the game to the next. The
-// wrappers differ in the case of the key on purpose: the host is case-blind, and the file shows
-// keys in upper case.
+// Reading and writing the game's settings file, which is also the only channel from one process of
+// the game to the next. The file is the one beside the program; a Platform reads and writes it, and
+// no copy of it is kept. How its text looks is formats/Profile.h's.
 #pragma once
 
 #include <string>
@@ -10,14 +10,15 @@ namespace tumbledeep {
 
 class Platform;
 
-/// The value of a key of the settings file, at most 749 characters; "" when there is none.
+/// The value of a key, its first 749 characters at most; "" when there is none. The key is asked
+/// for in lower case, which says the same: settings are case-blind.
 std::string IniRead(Platform& services, std::string_view section, std::string_view key);
 
-/// Writes a value; the key stands in the file in upper case. A failure goes unnoticed.
+/// Writes a value under the key in upper case. A failure goes unnoticed.
 void IniWrite(Platform& services, std::string_view section, std::string_view key,
               std::string_view value);
 
-/// A truth value as the settings write it.
+/// A truth value as settings write it: "True" or "False".
 std::string BoolText(bool value);
 
 } // namespace tumbledeep

@@ -1,11 +1,12 @@
-// Windows and what stands in them, as plain data: the game writes it, a front end shows it.
+// Windows and what stands in them, as plain data: the game writes it, a front end shows it. Nothing
+// is drawn here; the game's two windows are frmMain.h and frmDocument.h.
 #pragma once
 
 #include <string>
 
 namespace tumbledeep {
 
-/// A window. Positions and sizes are twips, 15 to the pixel; the size is the outer one.
+/// A window. Its place in its parent and its outer size are in twips, 15 to a pixel of the game.
 struct Window {
     float Left = 0.0F;
     float Top = 0.0F;
@@ -23,16 +24,16 @@ struct TextBox {
 
 /// A status bar of one panel.
 struct StatusBar {
-    std::string Panel;
+    std::string Panel; ///< the text of the panel
 };
 
-/// One entry of a menu tree. The tree is a list in which an entry belongs to the last one before
-/// it with a lower level; an ampersand in the caption marks the access letter.
+/// One entry of a menu tree. The tree is a list in which an entry belongs to the last one before it
+/// with a lower level.
 struct MenuEntry {
-    int Level;
-    const char* Caption;
-    const char* Name;
-    bool Submenu = false;
+    int Level;            ///< from 1, the entries of the menu bar
+    const char* Caption;  ///< an ampersand stands before the access letter
+    const char* Name;     ///< by which the game knows the entry
+    bool Submenu = false; ///< it only opens others
     bool Checked = false;
 };
 

@@ -1,5 +1,6 @@
-// The board's window: its clock, its keys, its mouse. A pause by a key, a click and a lost focus do
-// not know of each other: any of them may end another's.
+// The events of the board's window: its timer, its text field, its focus, its mouse. A pause by a
+// key, one by a click and one by a lost focus do not know of each other: any of them may end
+// another's. What follows the end of a map is in flow/, how the view follows is in view/.
 #include "windows/frmDocument.h"
 
 #include "host/Platform.h"
@@ -18,7 +19,7 @@ frmDocument::frmDocument(frmMain& parent, Platform& services) : Parent(parent), 
 }
 
 void frmDocument::Interval100Timer_Timer() {
-    // A flip comes before whatever moves in its tick, as its place in the clock's table has it.
+    // The view flips by where the player was before this tick moves anything.
     const bool flips = AutoMoveOn && AutoMoveMode == ViewMode::EdgeOfScreen;
     if (flips && NextTick() % RecountPeriod == 0) ViewEdgeTick();
     const Outcome outcome = Tick(ArrowKeys);

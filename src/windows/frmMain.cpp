@@ -1,4 +1,6 @@
-// The windows as they stand before the program does anything, and the road of what the player does.
+// The windows as they stand before the program does anything, with the menu's tree, and the way of
+// whatever the player does to the routine that it is for. Start-up and lists are in flow/, the
+// menu's handlers in Menu.cpp.
 #include "windows/frmMain.h"
 
 namespace tumbledeep {

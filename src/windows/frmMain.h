@@ -1,5 +1,7 @@
-// The parent window: the menu, the status bar, the start-up and the map loader. It owns the board's
-// window, so that one object is a whole game, and takes all that the player does.
+// The parent window: menu, status bar, start-up and map loader. It owns the board's window, so that
+// one object is a whole game. All that a player does goes in by Take, periods of the timer by
+// TimerPeriod; what the game asks goes out to its Platform. A front end shows the fields and keeps
+// the loop.
 #pragma once
 
 #include "formats/FieldInput.h"
@@ -15,72 +17,82 @@ namespace tumbledeep {
 
 class frmMain {
   public:
+    /// The windows before anything has started. The platform must outlive them.
     explicit frmMain(Platform& services);
-    /// The board's window points back here.
+    /// No copies: the board's window points back here.
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;
 
     Platform& Services;
-    Window Form; ///< the outer size is the front end's to keep up to date, by Resize
+    Window Form; ///< its size comes from the front end, by PlayerAct::Do::Resize
     StatusBar Info{"Gems Remaining:"};
     std::vector<MenuEntry> Menu; ///< the whole tree, in the order in which it is shown
-    std::string MapDir;          ///< where the map file is opened; "" until set
-    std::string CommandArg;
-    std::string CurrentMap; ///< file name of the running map
-    bool IsMapList = false; ///< the command line named a map list
+    std::string MapDir;          ///< the folder in which the map is opened; "" until set
+    std::string CommandArg;      ///< the text of the command line, quotes round it taken off
+    std::string CurrentMap;      ///< file name of the running map
+    bool IsMapList = false;      ///< the command line named a map list
 
     /// The board's window, the one child.
     frmDocument ActiveChild;
 
-    /// The one road by which anything that a player does comes in, typed, held and clicked alike.
+    /// Carries out one thing that the player does. All of it comes in here, typed, held and
+    /// clicked, so that it can be recorded and played back. Throws ProgramEnd when the process is
+    /// to end.
     void Take(const PlayerAct& act);
-    /// A period of the timer, for as long as the clock runs.
+    /// One period of the timer: a tick if the clock runs. Throws ProgramEnd likewise.
     void TimerPeriod();
 
     // flow/: start-up, the loader, map lists.
 
     /// The window has come up for the first time: shows the board and starts a map.
     void MDIForm_Activate();
-    /// Settles which map this process plays, and plays it.
+    /// Settles which map this process plays, and loads it. Without one the board stays empty.
     void StartupLoad();
-    /// Reads a map to its end and sets the board up. Throws Failure on a malformed line, or when a
-    /// pool is full; what was made before stays.
+    /// Reads a map to its end, titles shown, and sets the board up. Throws Failure on a malformed
+    /// line or when a pool is full; what was made before stays.
     void LoadNewMap(FieldInput map);
+    /// Starts the first map of the list in use, in a new process.
     void MnuBeginagain_Click();
-    /// The list in use, with its extension.
+    /// The file name of the list in use.
     std::string ListInUse();
     /// The records of a map list in a directory; tells the player and ends the process if the list
     /// can't be opened.
     std::vector<Record> OpenMapList(const std::string& directory, const std::string& name);
     /// The first record of a map list; tells the player and ends the process if there is none.
     std::string FirstOfMapList(const std::string& directory, const std::string& name);
-    /// Starts the program anew, with an argument if there is one, and ends this process.
+    /// Starts the program anew and ends this process. `argument` is put right behind the program's
+    /// name: "", or a text that begins with a blank.
     [[noreturn]] void Relaunch(const std::string& argument);
-    /// Writes the map that the next process plays, and starts it.
+    /// Writes the map that the next process plays into the settings, and starts that process.
     [[noreturn]] void PlayNext(const std::string& map);
 
     // The menu.
 
+    /// The entry of a name. Throws std::out_of_range if there is none.
     MenuEntry& Entry(std::string_view name);
+    /// Asks for a map and plays it in a new process.
     void MnuLoadMap_Click();
+    /// Asks for a map list, which counts from the next win on.
     void MnuMapList_Click();
+    /// Asks whether to, and plays the running map from its start in a new process.
     void MnuRestart_Click();
+    /// Turns the entry's check mark over, and the setting behind it.
     void MnuStartLastMap_Click();
     /// Shows the open dialog; the path chosen, "" when cancelled.
     std::string ChooseFile(const std::string& filter);
 
   private:
-    // flow/StartupLoad.cpp
+    // The parts of StartupLoad; their bodies are in flow/StartupLoad.cpp.
     bool ChooseAtStart();
     void TakeFromCommandLine();
     void SettleMap(const std::string& lastMap);
     bool OpenAndLoad(bool lastTry);
 };
 
-/// True for the name of a menu entry that can be chosen.
+/// Whether a menu entry of this name can be chosen: false for a submenu and for an unknown name.
 bool IsMenuHandler(std::string_view name);
 
-/// Carries out a menu entry; nothing for a submenu or a name that there is not.
+/// Carries out the menu entry of a name. Does nothing where IsMenuHandler is false.
 void RunMenuHandler(frmMain& main, std::string_view name);
 
 } // namespace tumbledeep

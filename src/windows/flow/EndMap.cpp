@@ -1,4 +1,6 @@
-// What follows a win or a death. Every road from here ends the process.
+// What follows a win or a death: the boxes, the search for the next map in its list, the start of
+// the process that plays it. Every way from here ends this process. That a map is over is found by
+// the rules.
 #include "formats/MapList.h"
 #include "formats/ProgramPath.h"
 #include "host/Platform.h"
@@ -22,7 +24,8 @@ void frmDocument::EndMap(Outcome outcome) {
     }
     if (Services.MsgBox("Do you want to play again?", MsgBoxStyle::Question) == MsgBoxAnswer::Yes) {
         IniWrite(Services, "Level", "Load", Form.Caption);
-        // The name is empty here, and the blank in front of it says nothing to the new process.
+        // Only a won map sets the name. After a death it is empty, and the blank in front of it
+        // says nothing to the new process; tests/windows/LevelFlowTest.cpp pins it.
         Parent.Relaunch(" " + LevelName);
     }
     Services.End();
@@ -53,7 +56,8 @@ void frmDocument::NextLevel() {
             IniWrite(Services, "Level", "StartMap", BoolText(false));
             Services.End();
         }
-        // For this search alone, and opened beside the program wherever it was chosen.
+        // The list counts for this search alone, and is opened beside the program, wherever it was
+        // chosen; tests/windows/LevelFlowTest.cpp pins it.
         listFile = getfilename(chosen);
     }
 }

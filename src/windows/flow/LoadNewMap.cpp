@@ -1,4 +1,6 @@
-// The loader, and the board's set-up behind it.
+// The loader as the windows have it: the lines of a map with their titles, then the set-up of board
+// and view. How a line becomes a sprite is formats/LoadMap.cpp's, how the grid is filled
+// rules/SetUp.cpp's.
 #include "formats/LoadMap.h"
 #include "host/Platform.h"
 #include "windows/frmMain.h"

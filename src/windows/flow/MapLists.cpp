@@ -1,4 +1,5 @@
-// Opening map lists, and the way from one process to the next.
+// Opening map lists, with what the player is told when one can't be used, and the way from one
+// process to the next by the settings. How a list is read and searched is formats/MapList.cpp's.
 #include "base/Failure.h"
 #include "formats/MapList.h"
 #include "formats/ProgramPath.h"

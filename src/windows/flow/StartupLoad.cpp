@@ -1,5 +1,6 @@
-// The door through which every map comes in: the command line, the settings or the open dialog.
-// The tests of extensions differ from step to step, and players' settings rely on each of them.
+// Which map this process plays, and its loading: from the command line, the settings or the open
+// dialog to an open file and the captions. The tests of extensions differ from step to step, and
+// players' settings rely on each of them; tests/windows/StartupLoadTest.cpp pins them.
 #include "base/Failure.h"
 #include "base/Text.h"
 #include "formats/ProgramPath.h"
@@ -43,6 +44,7 @@ void frmMain::StartupLoad() {
     }
 }
 
+/// The player picks a map or a list. False when nothing was picked.
 bool frmMain::ChooseAtStart() {
     const std::string chosen = ChooseFile("Tumbledeep map or maplist (*.TBM , *.TBL)|*.TBM;*.TBL");
     if (chosen.empty()) return false;
@@ -59,6 +61,7 @@ bool frmMain::ChooseAtStart() {
     return true;
 }
 
+/// Takes map or list and folder from the command line, if it names one.
 void frmMain::TakeFromCommandLine() {
     const std::string command = Services.Command();
     if (command.ends_with('"')) {
@@ -82,6 +85,8 @@ void frmMain::TakeFromCommandLine() {
     ActiveChild.Form.Caption = CurrentMap;
 }
 
+/// Makes what was picked or named, or else the last map, into the file name of a map and its
+/// folder, and writes it into the settings.
 void frmMain::SettleMap(const std::string& lastMap) {
     if (!lastMap.empty() && CommandArg.empty() && CurrentMap.empty()) CurrentMap = lastMap;
     if (IsMapName(CurrentMap)) IniWrite(Services, "Level", "Load", CurrentMap);
@@ -97,7 +102,8 @@ void frmMain::SettleMap(const std::string& lastMap) {
         if (IsMapName(CurrentMap)) CurrentMap = WithoutExtension(CurrentMap);
         CurrentMap = FirstOfMapList(MapDir, CurrentMap);
     }
-    // ".tbm" is not among these, so a name in lower case gets a second extension, and loses it.
+    // ".tbm" is not among these, so a name in lower case gets a second extension and loses it
+    // below.
     if (!CurrentMap.ends_with(".Tbm") && !CurrentMap.ends_with(".TBM")) CurrentMap += ".TBM";
     for (const std::string_view doubled : {".tbm.TBM", ".TBM.tbm", ".TBM.TBM", ".tbm.tbm"}) {
         if (!CurrentMap.ends_with(doubled)) continue;

@@ -1,4 +1,5 @@
-// The following view as the menu sets it.
+// The following view as the menu sets it, here and in the settings. At the start it is ViewChoice
+// that takes it from there.
 #include "windows/Settings.h"
 #include "windows/frmDocument.h"
 

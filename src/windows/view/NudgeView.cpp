@@ -1,16 +1,19 @@
-// Mode 1 of the following view: the board shifts along with each step. The limits differ from side
-// to side, and players know them; tests/windows/ViewTest.cpp pins them.
+// Mode 1 of the following view: the board shifts by a cell along with each step of the player. The
+// limits differ from side to side, and players know them; tests/windows/ViewTest.cpp pins them.
 #include "windows/frmMain.h"
 
 namespace tumbledeep {
 
 namespace {
 
-/// How far from the parent's middle the view waits, and from its lower edge.
+/// In twips. Up, left and down, the board follows from this far before the parent's middle on; to
+/// the right, from the middle on.
 constexpr float MiddleMargin = 1024;
+/// In twips. Downward, the board follows while it reaches below a line this far above the parent's
+/// lower edge.
 constexpr float LowerMargin = 1250;
 
-/// Whether the board is to shift after a step that ended at `x`, `y` inside the parent.
+/// Whether the board is to shift after a step that ended at `x`, `y`, in twips inside the parent.
 bool Follows(const frmDocument& board, const Window& parent, Heading way, float x, float y) {
     const Window& form = board.Form;
     switch (way) {

@@ -1,21 +1,26 @@
-// The size of the board window, and its place where it fits the parent.
+// The size of the board's window, by the map's walls and dirt, and its place at a map's start.
+// Where it goes from there is up to the three modes of the following view in the files beside this
+// one.
 #include "windows/frmMain.h"
 
 namespace tumbledeep {
 
 namespace {
 
-/// A board that leaves this much of the parent's outer size free fits it, in twips.
+// All in twips. The parent's size is its outer one, so room is left for its frame, menu and bars.
+
+/// A board fits on an axis if it leaves more than this of the parent's size free.
 constexpr float Frame = 1080;
-/// A board that fits is centred this much higher than the middle.
+/// A board that fits is centred across; down, it lies this much higher than centred.
 constexpr float Raised = 720;
-/// A board that does not fit begins this far from the parent's near edge, and ends this far from
-/// the far one; across, the frame and the gap at the far edge are one number.
+/// A board that does not fit begins this far from the parent's left or upper edge.
 constexpr float EdgeGap = 180;
+/// Or it ends this far from the right edge; from the lower edge it is Frame and EdgeGap.
 constexpr float FarGapAcross = 540;
 
-/// Where a board that does not fit lies on one axis, in twips: at the parent's edge where the
-/// player stands near one, the far edge winning, else where it is, with the player in the middle.
+/// Lays a board that does not fit on one axis: to the parent's edge if the player stands near one
+/// of the map's edges, the far one winning. Else it stays where YouStart has put it, with the
+/// player in the middle; tests/windows/ViewTest.cpp pins it.
 void LayAtEdge(float parentSize, float you, float boardSize, float atFarEdge, float& place) {
     if (parentSize / 2 > you) place = EdgeGap;
     if (parentSize / 2 > boardSize - you) place = atFarEdge;

@@ -1,4 +1,5 @@
-// The following view as the settings have it; on the very first run the player is asked.
+// The following view as the settings have it, at the start of each map. On the very first run the
+// player is asked and the answers are stored. The menu changes it later by AutoMoveChange.
 #include "base/Number.h"
 #include "base/Rounding.h"
 #include "base/Text.h"
@@ -12,7 +13,8 @@ namespace {
 
 ViewMode ModeFrom(double number) { return static_cast<ViewMode>(NearestTo16(number)); }
 
-/// The mode that the player has typed: the number that the text begins with, or 0.
+/// The mode that the player has typed, by the number that the text begins with: more than 3 gives
+/// 3, 0 or no number gives 2; tests/windows/ViewTest.cpp pins it.
 ViewMode ModeTyped(const std::string& text) {
     const ViewMode mode = ModeFrom(ReadNumber(text).Value);
     if (mode > ViewMode::EdgeOfScreen) return ViewMode::EdgeOfScreen;

@@ -1,14 +1,22 @@
-// Mode 3 of the following view: a flip by a page. The thresholds of an axis lie one page apart, so
-// the view never flips back and forth.
+// Mode 3 of the following view: when the player nears an edge of the parent, the board flips by a
+// page. The two thresholds of an axis lie one page apart, so that the view never flips back and
+// forth; tests/windows/ViewTest.cpp pins them.
 #include "windows/frmMain.h"
 
 namespace tumbledeep {
 
 namespace {
 
-constexpr float PageMargin = 1080;
+// All in twips.
 
-/// One axis, in twips; `lower` is the lower threshold of the player's place in the parent.
+/// A page is the parent's outer size less this.
+constexpr float PageMargin = 1080;
+/// The lower thresholds of the player's place in the parent: down, it lies above the upper edge.
+constexpr float LowerDown = -720;
+constexpr float LowerAcross = 0;
+
+/// One axis: flips back from beyond the upper threshold, one page above `lower`, and forth from
+/// below `lower`.
 void Flip(float parentSize, float lower, float you, float& board) {
     const float page = parentSize - PageMargin;
     if (parentSize - (PageMargin - lower) < you + board) board -= page;
@@ -18,8 +26,8 @@ void Flip(float parentSize, float lower, float you, float& board) {
 } // namespace
 
 void frmDocument::ViewEdgeTick() {
-    Flip(Parent.Form.Height, -720, You.Top, Form.Top);
-    Flip(Parent.Form.Width, 0, You.Left, Form.Left);
+    Flip(Parent.Form.Height, LowerDown, You.Top, Form.Top);
+    Flip(Parent.Form.Width, LowerAcross, You.Left, Form.Left);
 }
 
 } // namespace tumbledeep
