@@ -1,4 +1,5 @@
-// Maps are made in memory, but for those that ship.
+// How the texts of maps are put together, a line for each object. Maps that ship are read from the
+// folder that the build names.
 #include "Boards.h"
 
 #include "host/HostFiles.h"

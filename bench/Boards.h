@@ -1,4 +1,5 @@
-// Boards for the benchmarks, made of the text of a map.
+// The texts of maps for the benchmarks: maps made in memory by a rule, and those that ship. Boards
+// are made of them by formats/LoadMap.h.
 #pragma once
 
 #include "world/Board.h"
@@ -20,10 +21,10 @@ std::string MapOf(int size, const std::function<Object(int col, int row)>& insid
 /// A map of 90,000 lines of four kinds in turn, as no pool holds more than 32,767 sprites.
 std::string MapOf90000Lines();
 
-/// A map that ships, by its file.
+/// The text of a map that ships, by the name of its file. Throws Failure if there is none.
 std::string ShippedMap(const std::string& file);
 
-/// The files of all maps that ship, by name.
+/// The names of the files of all maps that ship, sorted.
 std::vector<std::string> ShippedMaps();
 
 } // namespace tumbledeep

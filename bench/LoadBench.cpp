@@ -1,4 +1,5 @@
-// A map of 90,000 lines, from its text to the board that is played.
+// The time from the text of a map of 90,000 lines to the board that is played. Reading the file is
+// not in it.
 #include "Boards.h"
 
 #include "formats/LoadMap.h"

@@ -1,4 +1,6 @@
-// Time per tick, over whole cycles of the clock, since most ticks run only a few routines.
+// The time per tick on the largest map that ships and on maps full of rocks, mines or Bangs. Whole
+// cycles of the clock are measured, since most ticks run only a few routines. Painting is not in
+// it.
 #include "Boards.h"
 
 #include "formats/LoadMap.h"
@@ -9,8 +11,8 @@ namespace tumbledeep {
 
 namespace {
 
-constexpr int Cycle = 301;
-constexpr int LargestMap = 301;
+constexpr int Cycle = 301;      // ticks
+constexpr int LargestMap = 301; // cells, both ways
 
 /// A gem out of reach keeps a map from being won, and a player off the grid from being lost.
 const std::string Endless = "gem1type 0 0\nyou 1e9 1e9\n";

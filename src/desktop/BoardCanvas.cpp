@@ -1,5 +1,6 @@
-// All painting is in whole device pixels, whatever the screen's scale: the board is one picture
-// here and no widget of its own, so that nothing between two cells can open or blur.
+// Painting, keys and mouse of the board. All painting is in whole device pixels, whatever the
+// screen's scale: the board is one picture here and no widget of its own, so that nothing between
+// two cells can open or blur.
 #include "desktop/BoardCanvas.h"
 
 #include "pictures/Catalogue.h"

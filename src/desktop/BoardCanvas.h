@@ -1,4 +1,6 @@
-// The parent's client area with the board in it: painting, keys and the mouse.
+// The parent's client area with the board in it, as a widget: paints the board, and turns keys and
+// mouse into what the player does, told by the functions below. What comes of that is GameWindow's;
+// which parts need painting is BoardLook's.
 #pragma once
 
 #include "desktop/BoardLook.h"
@@ -14,15 +16,18 @@ namespace tumbledeep {
 
 class BoardCanvas final : public QWidget {
   public:
-    /// `fixedScale` overrides the scale that the screen suggests.
+    /// `fixedScale`, in whole device pixels to a pixel of the game, overrides the screen's own.
     BoardCanvas(frmMain& game, std::optional<int> fixedScale);
 
-    /// What the player does, told to the window. A typed text is one character.
+    // What the player does. The window sets all of these before anything happens.
+
+    /// One character has been typed.
     std::function<void(const std::string& text)> Typed;
     std::function<void(Heading arrow, bool down)> ArrowKey;
-    /// The left button went down on the board's own surface; false if that is no act of play. Then
-    /// the mouse moves with it held.
+    /// The left button has gone down on the board's own surface. False if that is no act of play:
+    /// then its moves are none either.
     std::function<bool()> BoardPressed;
+    /// The mouse has moved with that button held, and no drag has begun yet.
     std::function<void()> BoardMouseMoved;
     /// The mouse moves the board, by so many twips.
     std::function<void(float x, float y)> BoardDragged;

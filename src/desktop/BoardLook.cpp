@@ -1,4 +1,5 @@
-// Whole arrays are compared first: in most pools of a tick nothing has changed.
+// How twips become device pixels, and how sprites are compared with those last shown. Whole pools
+// are compared first, as nothing has changed in most of them.
 #include "desktop/BoardLook.h"
 
 #include "pictures/Bitmap.h"

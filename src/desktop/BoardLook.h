@@ -1,4 +1,5 @@
-// What of the board has been shown, so that after a tick only what changed is painted again.
+// Where things lie on the screen in device pixels, and what of the board has been shown, so that
+// after a tick only what has changed is painted again. The painting is BoardCanvas's.
 #pragma once
 
 #include "windows/frmMain.h"
@@ -22,8 +23,8 @@ QRect BoardRect(const frmDocument& board, int scale);
 /// Remembers the sprites as they were last seen.
 class BoardLook {
   public:
-    /// The places on the board, in device pixels, whose look has changed since the last call; each
-    /// within `visible`.
+    /// The places on the board, in device pixels, whose look has changed since the last call, cut
+    /// to what lies within `visible`.
     std::vector<QRect> Changes(const frmDocument& board, int scale, const QRect& visible);
 
   private:

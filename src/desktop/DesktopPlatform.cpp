@@ -1,4 +1,5 @@
-// Dialogs are Qt's own, which take the desktop's look where it offers one.
+// What the game asks, answered with Qt: dialogs are its own, which take the desktop's look where it
+// offers one. Files and settings are host/HostFiles.h's.
 #include "desktop/DesktopPlatform.h"
 
 #include "formats/ProgramPath.h"
@@ -16,6 +17,7 @@ namespace tumbledeep {
 namespace {
 
 constexpr const char* Title = "Tumbledeep";
+/// How long this window stays up at most while the next process has not painted its own.
 constexpr std::chrono::milliseconds LongestGap{1000};
 
 /// The filter as Qt writes it: "label (pattern pattern)". Small letters are added to each pattern,

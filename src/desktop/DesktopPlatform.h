@@ -1,4 +1,5 @@
-// The system with a window: dialogs, keys and processes of the desktop.
+// The game's system on a desktop: dialogs, the next process, seeds, and files of the host. The
+// window that dialogs belong to, and the clock held round them, are GameWindow's.
 #pragma once
 
 #include "desktop/Options.h"
@@ -25,7 +26,7 @@ class DesktopPlatform final : public Platform {
     QWidget* DialogParent = nullptr;
     std::function<void()> BeforeDialog;
     std::function<void()> AfterDialog;
-    /// Begins to move the board with the mouse.
+    /// Makes the board follow the mouse until the button is released. Set before the game starts.
     std::function<void()> BeginDrag;
 
     /// The desktop wants the program to end: a dialog that is open returns no answer, the process

@@ -1,4 +1,5 @@
-// Only settings are written; the game's own start-up does the rest.
+// Looks for settings and a list in the program's directory, and writes the two settings that a
+// first start is without.
 #include "desktop/FirstStart.h"
 
 #include "base/Failure.h"

@@ -1,4 +1,5 @@
-// The very first start plays the shipped list and needs no open dialog.
+// The very first start plays the list that ships and needs no open dialog. Only settings are
+// written here; the game's own start-up does the rest by them.
 #pragma once
 
 #include <filesystem>

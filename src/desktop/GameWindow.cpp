@@ -1,4 +1,5 @@
-// The clock is held here while a dialog is open, and nowhere else.
+// How events are delivered to the game and how its data come on the screen: timer, menu, status
+// bar, dialogs, and what the focus has to do with them.
 #include "desktop/GameWindow.h"
 
 #include "desktop/SpriteImages.h"
@@ -21,10 +22,13 @@ namespace {
 
 using Do = PlayerAct::Do;
 
+/// In logical pixels, both ways.
 constexpr int StatusPictureSize = 14;
-/// In milliseconds; without a window manager the focus never comes.
+/// In milliseconds: how long a first dialog waits for the focus, which never comes without a window
+/// manager.
 constexpr int FocusPatience = 500;
-/// In milliseconds; a hand that comes back by other means needs longer for its first press.
+/// In milliseconds: a press so soon after the return from another program is what has brought the
+/// player back. A hand that comes back by other means needs longer for its first press.
 constexpr int SamePress = 150;
 
 } // namespace

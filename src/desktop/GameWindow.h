@@ -1,5 +1,6 @@
-// The parent window on the screen. It owns the loop's side of the game: every event is delivered
-// here, and afterwards the screen is made to agree with the game's data.
+// The parent window on the screen. Every event reaches the game from here, timer, menu, keys and
+// mouse, and afterwards the screen is made to agree with the game's data. The clock is held here
+// while a dialog is open, and nowhere else. The board is painted by BoardCanvas.
 #pragma once
 
 #include "desktop/BoardCanvas.h"
@@ -21,7 +22,7 @@ namespace tumbledeep {
 
 class GameWindow final : public QMainWindow {
   public:
-    /// The game starts by itself when the window has come up.
+    /// The game starts by itself when the window has come up. Game and platform must outlive it.
     GameWindow(frmMain& game, DesktopPlatform& platform, const Options& options);
 
   protected:

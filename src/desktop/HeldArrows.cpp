@@ -1,4 +1,5 @@
-// Two keys can hold the same arrow, one of them on the number pad.
+// The keys that are down, and the arrows that they hold. Two keys can hold the same arrow, one of
+// them on the number pad.
 #include "desktop/HeldArrows.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
-// Which arrows the player holds. A key is told by its place on the keyboard and not by its name: a
-// key of the number pad changes its name with Shift and Num Lock, also while it is down.
+// Which arrows the player holds: keys go in, changes of the four arrows come out. A key is told by
+// its place on the keyboard and not by its name: a key of the number pad changes its name with
+// Shift and Num Lock, also while it is down.
 #pragma once
 
 #include "desktop/KeyboardState.h"
@@ -13,7 +14,7 @@ namespace tumbledeep {
 
 class HeldArrows {
   public:
-    /// An arrow goes down, or up when no other key holds it.
+    /// Called when an arrow goes down, or up with no other key that holds it. Set before any key.
     std::function<void(Heading arrow, bool down)> Changed;
 
     /// The key goes down, or repeats, under the name of an arrow or none. True if it is an arrow's.

@@ -1,5 +1,6 @@
-// X11 answers through the library that the toolkit has loaded itself: there is nothing to link, and
-// no header to install. The reply has the layout of the protocol, which does not change.
+// Asks X11 for the keys that are down, through the library that the toolkit has loaded itself:
+// there is nothing to link, and no header to install. The reply has the layout of the protocol,
+// which does not change.
 #include "desktop/KeyboardState.h"
 
 #include <QGuiApplication>

@@ -1,4 +1,5 @@
-// What the system itself says of the keyboard, at moments when no event has told it.
+// What the system itself says of the keyboard, for moments when no event has told: after a dialog
+// or another program has had the focus. What the game makes of it is HeldArrows.h's.
 #pragma once
 
 #include <bitset>

@@ -1,4 +1,5 @@
-// Neither toolkit nor screen is needed here, so that --help works without both.
+// How the command line is read, and its text for the next process and for the player. Neither
+// toolkit nor screen is needed here, so that --help works without both.
 #include "desktop/Options.h"
 
 #include "base/Number.h"

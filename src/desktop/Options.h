@@ -1,4 +1,5 @@
-// The options of the desktop program: words that begin with "--". All else is the game's.
+// The command line of the desktop program: its own options, words that begin with "--", and the
+// text that is the game's. What they bring about is RunGame's.
 #pragma once
 
 #include <filesystem>
@@ -9,11 +10,12 @@
 
 namespace tumbledeep {
 
+/// What the words of the command line ask for.
 struct Options {
     bool Help = false;
     bool Version = false;
     std::optional<std::filesystem::path> Directory; ///< of maps, lists and settings
-    std::optional<int> Scale;                       ///< device pixels to a pixel of the game
+    std::optional<int> Scale;                       ///< device pixels to a game's pixel, 1 to 16
     std::optional<int> ShownPipe; ///< file descriptor on which a predecessor waits to be told
     std::string Argument;         ///< the game's command line text, as the player wrote it
 

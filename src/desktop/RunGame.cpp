@@ -1,4 +1,5 @@
-// What needs no screen comes first, so that --help works without one.
+// Puts the desktop program together: options, toolkit, platform, game and window. What needs no
+// screen comes first, so that --help works without one.
 #include "desktop/RunGame.h"
 
 #include "desktop/DesktopPlatform.h"

@@ -1,4 +1,5 @@
-// The desktop program from its first word to its end.
+// The desktop program from its first word to its end, as a function that main.cpp calls and tests
+// can reach. The window is GameWindow's.
 #pragma once
 
 namespace tumbledeep {

@@ -1,4 +1,5 @@
-// A handler may only write; the event loop reads at the other end.
+// A signal handler may do next to nothing: it writes a byte into a socket, and the event loop reads
+// at the other end.
 #include "desktop/Signals.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,5 @@
-// The system's wishes that the process end.
+// The system's wishes that the process end, SIGTERM and its like, turned into a call from the event
+// loop. What ends then is the caller's.
 #pragma once
 
 #include <functional>

@@ -1,4 +1,5 @@
-// Enlarged here once, by whole pixels, so that painting is plain copying at every scale.
+// Bitmaps become images here once for a scale, enlarged by whole pixels, so that painting is plain
+// copying.
 #include "desktop/SpriteImages.h"
 
 #include "pictures/Catalogue.h"

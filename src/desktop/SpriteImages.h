@@ -1,4 +1,5 @@
-// The catalogue as images, each pixel a square of whole device pixels.
+// The catalogue as images of the toolkit, each pixel a square of whole device pixels. The drawings
+// are pictures/'s, painting them is BoardCanvas's.
 #pragma once
 
 #include "pictures/Bitmap.h"
@@ -13,7 +14,8 @@ namespace tumbledeep {
 
 class SpriteImages {
   public:
-    /// Draws all images anew if the scale is another than before.
+    /// Draws all images anew if the scale, in device pixels to a pixel of the game, is another than
+    /// before. Comes before any image is asked for.
     void SetScale(int scale);
 
     const QImage& Of(Picture picture) const { return pictures[static_cast<std::size_t>(picture)]; }

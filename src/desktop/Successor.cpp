@@ -1,4 +1,5 @@
-// POSIX: a pipe whose writing end the successor inherits and closes when it has painted.
+// How two processes know of each other, by POSIX: through a pipe whose writing end the successor
+// inherits and closes when it has painted.
 #include "desktop/Successor.h"
 
 #include <array>

@@ -1,5 +1,5 @@
-// The process that plays the next map. Its window is on the screen before the old one goes, so the
-// player never looks at a bare desktop.
+// The process that plays the next map: starting it, and waiting until its window is on the screen,
+// so that the player never looks at a bare desktop. Which map it plays it reads from the settings.
 #pragma once
 
 #include <chrono>
@@ -15,7 +15,8 @@ class Successor {
     Successor& operator=(const Successor&) = delete;
     ~Successor();
 
-    /// Starts this very program anew with these words. False if the system refuses.
+    /// Starts a program, this one anew, with these words on its command line. False if the system
+    /// refuses.
     bool Start(const std::string& program, std::vector<std::string> words);
 
     /// Returns when the process started has shown itself, has ended, or the bound has passed; at

@@ -1,4 +1,5 @@
-// The headless front end's loop: the script's events of a step, then one tick if the clock runs.
+// The loop of a run: the script's events of a step, then a period of the timer, then the lines that
+// tell what has changed.
 #include "headless/Play.h"
 
 #include "headless/Trace.h"

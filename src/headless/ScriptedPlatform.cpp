@@ -1,4 +1,5 @@
-// When no answer is left, questions get No and other dialogs are cancelled.
+// How dialogs are answered from the script and requests printed. When no answer is left, questions
+// get No and other dialogs are cancelled.
 #include "headless/ScriptedPlatform.h"
 
 #include "base/Failure.h"

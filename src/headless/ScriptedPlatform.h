@@ -1,4 +1,6 @@
-// A system without a window: a script answers, and all that the program asks comes out as lines.
+// A system without a window: a script answers the dialogs, files are the host's, and all that the
+// program asks is printed as lines of the trace. The state of the game is printed by Trace.h. A
+// system without files, for tests, is host/MemoryPlatform.h.
 #pragma once
 
 #include "formats/Script.h"
@@ -11,14 +13,14 @@ namespace tumbledeep {
 
 /// What a run is called with.
 struct ScriptedRun {
-    std::string Directory; ///< the program's directory, as a program path
-    std::string Command;
-    std::uint32_t Seed = 0;
+    std::string Directory;  ///< the program's directory, as a program path
+    std::string Command;    ///< the text of the command line
+    std::uint32_t Seed = 0; ///< for every seeding
 };
 
 class ScriptedPlatform final : public Platform {
   public:
-    /// Writes its lines to `lines`; `script` and `lines` must outlive it.
+    /// Writes its lines to `lines` and takes the answers off `script`; both must outlive it.
     ScriptedPlatform(const ScriptedRun& run, Script& script, std::ostream& lines);
 
     /// The text as the trace prints it: in double quotes, with escapes, the program's directory at
@@ -28,7 +30,7 @@ class ScriptedPlatform final : public Platform {
     int MsgBox(const std::string& text, int style) override;
     std::string InputBox(const std::string& prompt) override;
     std::string ShowOpen(const OpenDialog& dialog) override;
-    /// Nothing: a script moves the board by its own event.
+    /// Does nothing: a script moves the board by an event of its own.
     void DragBoard() override {}
     void Shell(const std::string& commandLine) override;
     std::string AppPath() const override { return run.Directory; }
@@ -44,7 +46,8 @@ class ScriptedPlatform final : public Platform {
     void Ending() override;
 
   private:
-    /// The next answer if there is one; throws ScriptFault unless `fits` takes it.
+    /// The next answer, none if there is none left. Throws ScriptFault, which names the dialog,
+    /// for one that `fits` refuses.
     std::optional<ScriptAnswer> NextAnswer(const std::string& dialog,
                                            bool (*fits)(ScriptAnswer::To kind));
     std::string ChosenPath(std::string path) const;

@@ -1,4 +1,5 @@
-// The order of the lines is fixed: variables, cells, sprites, the view.
+// How the state is compared with what was last printed, and written. The order of the lines is
+// fixed, since programs read them: variables, cells, sprites, the view.
 #include "headless/Trace.h"
 
 #include "base/Number.h"

@@ -1,4 +1,7 @@
-// The lines that tell the state of a game after a step, and only what has changed since.
+// The lines that tell the state of a game after a step: variables, cells, sprites, the view. Only
+// what has changed since the last time is printed, so a trace is the whole course of a game. Lines
+// of what happens in between, such as boxes, are ScriptedPlatform.h's; docs/SCRIPT.md tells all of
+// them.
 #pragma once
 
 #include "windows/frmMain.h"
@@ -15,10 +18,11 @@ class Trace {
   public:
     using Quote = std::function<std::string(std::string_view)>;
 
-    /// `quote` gives a text as the trace prints it.
+    /// Prints to `lines`, which must outlive it. `quote` puts a text in the quotes of the trace.
     Trace(std::ostream& lines, Quote quote);
 
-    /// Prints what differs from what was last printed, all of it the first time.
+    /// Prints what differs from what was last printed, the first time all of it; no line at all
+    /// when nothing differs.
     void Print(const frmMain& main, std::int64_t step);
 
   private:

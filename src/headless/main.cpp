@@ -1,4 +1,5 @@
-// tumbledeep-trace: plays the game from a script and prints what happens as plain lines.
+// tumbledeep-trace: plays the game from a script and prints what happens as plain lines. The
+// command line is read here and faults become exit statuses; the run itself is Play.h's.
 #include "base/Failure.h"
 #include "base/Number.h"
 #include "headless/Play.h"

@@ -1,4 +1,5 @@
-// A drawn picture: 25 by 25 pixels of 24-bit colour, opaque.
+// A drawn picture as plain data: 25 by 25 pixels of 24-bit colour, opaque. How it is drawn is told
+// in Canvas.h, how it comes on a screen in desktop/SpriteImages.h.
 #pragma once
 
 #include <array>

@@ -1,4 +1,5 @@
-// The strokes that all pictures share.
+// The strokes that all pictures share, in plain arithmetic without a toolkit, so that pictures are
+// the same wherever they are drawn.
 #include "pictures/Canvas.h"
 
 #include <algorithm>

@@ -1,4 +1,5 @@
-// Which drawing belongs to which picture.
+// Which drawing belongs to which picture, and what is painted over what. The drawings are in the
+// files named Draw.
 #include "pictures/Catalogue.h"
 
 #include "pictures/Draw.h"

@@ -1,4 +1,6 @@
-// The look of everything: each picture, shape and emblem, drawn once by code for a white board.
+// The look of everything: each picture, shape and emblem, drawn once by code for a white board, and
+// the order of painting. Which sprite shows which picture is told in world/Kind.cpp; enlarging and
+// painting are desktop/'s.
 #pragma once
 
 #include "pictures/Bitmap.h"
@@ -9,17 +11,17 @@
 
 namespace tumbledeep {
 
-/// By the number of the picture. `Picture::None` stays white and is never shown.
+/// All pictures by number. `Picture::None` stays white and is never shown.
 const std::array<Bitmap, PictureCount>& Catalogue();
 
-/// The kinds that have sprites in the order in which they are painted: shapes first, which the
-/// player's lies above, then pictures.
+/// The kinds that have sprites in the order of painting: shapes, then pictures. The player is
+/// painted in between.
 const std::array<Kind, PoolCount>& PaintOrder();
 
 /// What is painted on the board's own surface, beneath all pictures.
 enum class Shape : std::uint8_t { You, Dirt, HardDirt };
 
-/// Only the pixels that the shape covers are its own; the others are white and are not painted.
+/// A shape, and which of its pixels are painted; the others are white and show what lies beneath.
 const Bitmap& ShapeBitmap(Shape shape);
 bool ShapeCovers(Shape shape, int x, int y);
 

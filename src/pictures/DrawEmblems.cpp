@@ -1,4 +1,5 @@
-// What lies beneath the pictures, and what stands outside the board: shapes, disc and icon.
+// The drawings that are no pictures of sprites: the shapes that lie beneath them, the disc of the
+// status bar, and the program's icon, which shows a gem in a rock.
 #include "pictures/Canvas.h"
 #include "pictures/Catalogue.h"
 #include "pictures/Draw.h"

@@ -1,4 +1,5 @@
-// The gems: diamonds standing on their point, and discs like drops.
+// The gems: three diamonds that stand on their point, drawn by facets, and three discs like drops.
+// The icon takes its diamond from here too.
 #include "pictures/Canvas.h"
 #include "pictures/Draw.h"
 

@@ -1,4 +1,6 @@
-// The mines: the small star in each kind's three shades, its spike, and the star of the T mine.
+// The mines: one small star in each kind's three shades with a heart of the kind's own, the spike
+// that marks the hand of L and R mines, and the larger star of the T mine. Stars are patterns of
+// letters.
 #include "pictures/Canvas.h"
 #include "pictures/Draw.h"
 

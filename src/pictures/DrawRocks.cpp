@@ -1,4 +1,5 @@
-// The rocks: seven heavy boulders, lit from the upper left.
+// The rocks: seven heavy boulders, lit from the upper left. They differ in colour and in the grain
+// of their stone, which comes of the rock's number and so is the same on every run.
 #include "pictures/Canvas.h"
 #include "pictures/Draw.h"
 

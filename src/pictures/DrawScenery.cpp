@@ -1,4 +1,5 @@
-// The Bang and the factory.
+// The Bang, a star of rays with a heart of its own shape, and the factory, a pattern of lines.
+// Walls and dirt are plain fills of DrawEmblems.cpp.
 #include "pictures/Canvas.h"
 #include "pictures/Draw.h"
 

@@ -1,4 +1,5 @@
-// Whole numbers from single precision.
+// Whole numbers from single precision and from doubles: ties, signs, and sizes near the limits of
+// the types. Reading numbers from text is in formats/MapTextTest.cpp.
 #include "base/Rounding.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,6 @@
 // The desktop half on the toolkit's offscreen platform: what needs no window manager and no server.
+// Focus, keys and the next process are tested by the real program in the Python files beside this
+// one.
 #include "desktop/GameWindow.h"
 
 #include <gtest/gtest.h>

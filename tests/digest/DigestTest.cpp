@@ -1,4 +1,4 @@
-// Sixty seeded sessions, every state hashed. digest.txt holds, for each seed, the hash of its end
+// Sixty seeded games, every state hashed. digest.txt holds, for each seed, the hash of its end
 // and one letter of the running hash for each period: where the letters first differ, play does.
 // When a change of play is intended, TUMBLEDEEP_WRITE_DIGEST=1 writes the file anew, and the commit
 // that moves it says why.

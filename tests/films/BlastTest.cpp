@@ -1,4 +1,5 @@
-// Blasts: what goes, what stays, in which order, and how a chain takes its time.
+// Blasts: what goes, what stays, in which order, and how a chain takes its time. What makes a Bang
+// is in GravityTest.cpp and MinesTest.cpp; Film.h tells how films are read.
 #include "formats/LoadMap.h"
 #include "support/Film.h"
 

@@ -1,4 +1,5 @@
-// The clock: its cycle, who is due when, who comes first on a tick, and what stops it.
+// The clock: its cycle, who is due when, who comes first on a tick, and what stops it. What each
+// routine does is in the other films; Film.h tells how they are read.
 #include "formats/LoadMap.h"
 #include "support/Film.h"
 

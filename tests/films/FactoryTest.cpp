@@ -1,4 +1,5 @@
-// Factories and new objects: the rest, the products, their looks, and who marks the cell.
+// Factories and new objects: the rest, the products, their looks, and who marks the cell. Film.h
+// tells how films are read.
 #include "formats/LoadMap.h"
 #include "support/Film.h"
 

@@ -1,4 +1,5 @@
-// Won or dead: what the recount counts, and what it misses.
+// Won or dead: what the recount of gems counts, and what it misses. What the player is shown then
+// is in windows/LevelFlowTest.cpp.
 #include "formats/LoadMap.h"
 
 #include <gtest/gtest.h>

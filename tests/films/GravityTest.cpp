@@ -1,4 +1,5 @@
-// Rocks and gems: what they fall past, roll off, hit and are taken by.
+// Rocks and gems: what they fall past, roll off, hit and are taken by. Falling T mines are in
+// MinesTest.cpp; Film.h tells how films are read.
 #include "support/Film.h"
 
 namespace tumbledeep {

@@ -1,4 +1,5 @@
-// The six kinds of mine: how they walk, turn, aim, fall, and whom they kill.
+// The six kinds of mine: how they walk, turn, aim, fall, and whom they kill. Their Bangs are in
+// BlastTest.cpp; Film.h tells how films are read.
 #include "support/Film.h"
 
 namespace tumbledeep {

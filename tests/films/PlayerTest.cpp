@@ -1,4 +1,5 @@
-// Steps, pushes and pauses, and whether the player is ready for the next key.
+// Steps, pushes and keys of the player, and whether the player is ready for the next key. Pauses
+// are in ClockTest.cpp; Film.h tells how films are read.
 #include "formats/LoadMap.h"
 #include "support/Film.h"
 

@@ -1,4 +1,5 @@
-// Set-up: who owns a shared cell, which pictures mines show, where the player starts.
+// Set-up: who owns a shared cell, which pictures mines show, where the player starts. The lines of
+// a map are in formats/MapTextTest.cpp; Film.h tells how films are read.
 #include "formats/LoadMap.h"
 #include "support/Film.h"
 

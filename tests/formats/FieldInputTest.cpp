@@ -1,4 +1,5 @@
-// Records of field-wise text input, and where they stand.
+// Records of field-wise text input, and the lines and columns at which they stand. What a record
+// means is in MapTextTest.cpp.
 #include "formats/FieldInput.h"
 
 #include <gmock/gmock.h>

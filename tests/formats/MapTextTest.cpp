@@ -1,4 +1,5 @@
-// The lines of a map: what is malformed, how numbers may look, and what stays after a fault.
+// The lines of a map: what is malformed, how numbers may look, and what stays on the board after a
+// fault. What the player is told then is in windows/StartupLoadTest.cpp.
 #include "formats/LoadMap.h"
 
 #include "base/Failure.h"

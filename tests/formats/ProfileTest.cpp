@@ -1,4 +1,5 @@
-// Settings text: a player's other lines are never lost.
+// Settings text: which line a key is, and that a player's other lines are never lost. The file
+// round the text is in host/HostFilesTest.cpp.
 #include "formats/Profile.h"
 
 #include <gtest/gtest.h>

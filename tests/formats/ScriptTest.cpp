@@ -1,4 +1,5 @@
-// Scripts: what fits, and how a fault is told.
+// Scripts: which lines do not fit, and how a fault is told. Scripts that fit are played in
+// headless/TraceTest.cpp.
 #include "formats/Script.h"
 
 #include "windows/frmMain.h"

@@ -1,4 +1,5 @@
-// Whole runs of tumbledeep-trace: what it prints, and how a wrong call ends.
+// Whole runs of tumbledeep-trace as a program: what it prints, and how a wrong call ends. The
+// folder every_verb holds a map, a script and the lines that must come of them.
 #include "support/TempFolder.h"
 
 #include <gmock/gmock.h>

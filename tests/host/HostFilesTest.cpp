@@ -1,4 +1,5 @@
-// Paths, names in another case, and settings that are never half written.
+// The host's files: paths both ways, names in another case, and settings that are never half
+// written. The text of settings is in formats/ProfileTest.cpp.
 #include "host/HostFiles.h"
 
 #include "base/Failure.h"

@@ -1,4 +1,5 @@
-// What a player must be able to tell from the pictures: kinds, hands and colours.
+// What a player must be able to tell from the pictures: kinds, hands and colours. Beyond that the
+// drawings are free.
 #include "pictures/Catalogue.h"
 
 #include <gtest/gtest.h>

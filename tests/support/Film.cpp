@@ -1,4 +1,5 @@
-// A film is read word by word, loaded as the text of a map, and each picture compared as text.
+// How films are read and played: word by word, loaded as the text of a map, and each picture
+// compared as text. What may stand in a film is told in the header.
 #include "support/Film.h"
 
 #include "formats/LoadMap.h"

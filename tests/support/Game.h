@@ -1,4 +1,5 @@
-// A whole game in memory: both windows on a platform that says what a test tells it to.
+// A whole game in memory for the tests of the windows: both windows on a platform that answers what
+// a test tells it to. Rules alone are tested on a Board, by films.
 #pragma once
 
 #include "host/MemoryPlatform.h"

@@ -1,4 +1,5 @@
-// A folder of a test's own, gone with its end.
+// A folder of a test's own, for tests that need files of the host. It is made empty and is gone
+// with its end.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
-// What follows a win, a death and the menu's entries, in order.
+// What follows a win and a death: boxes, settings and processes in order. That a map is over is
+// found in films/GameEndTest.cpp.
 #include "support/Game.h"
 
 #include <gtest/gtest.h>

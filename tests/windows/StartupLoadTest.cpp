@@ -1,4 +1,5 @@
-// All roads into a map: the dialogs shown, the settings written, the files opened, the captions.
+// All ways into a map: the dialogs shown, the settings written, the files opened, the captions.
+// What a map holds is in formats/MapTextTest.cpp.
 #include "host/MemoryPlatform.h"
 #include "windows/frmMain.h"
 

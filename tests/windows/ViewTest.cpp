@@ -1,4 +1,5 @@
-// The following view: strict thresholds, both axes, three modes, and the choice among them.
+// The following view: its thresholds, each of which is strict, on both axes in all three modes, the
+// place at the start, and the choice among the modes.
 #include "support/Game.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
-// The board as a value: copies play on like their original and know nothing of one another.
+// The board as a value: copies play on like their original and know nothing of one another; what
+// counts in comparisons; where grid and pools end.
 #include "formats/LoadMap.h"
 #include "soak/RandomGame.h"
 

@@ -1,4 +1,5 @@
-// A picture of any size with transparency, and its way into a PNG file.
+// A picture of any size with transparency: enlarging, the icon at any size, and the way into a PNG
+// file. What stands on the sheet of all pictures is Sheet.h's.
 #pragma once
 
 #include "pictures/Bitmap.h"

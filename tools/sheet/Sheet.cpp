@@ -1,4 +1,5 @@
-// Places each picture in a frame of its own.
+// Which picture stands where on the sheet: the rows go by the table of kinds, so that a new kind
+// comes by itself. Each picture has a frame of its own with white round it.
 #include "Sheet.h"
 
 #include "pictures/Catalogue.h"

@@ -1,4 +1,5 @@
-// Writes the catalogue, or the icon alone, to a PNG file.
+// tumbledeep-sheet: writes the catalogue, or the icon alone, to a PNG file. Only the command line
+// is read here; the images are Sheet.h's and Image.h's.
 #include "Sheet.h"
 
 #include <charconv>

@@ -1,4 +1,5 @@
-// Seeds divide the work: some maps are closed and some open, some all rocks and some all mines.
+// How maps and acts are drawn. Some maps are closed and some open, some all rocks and some all
+// mines, so that many seeds together come to most of the rules.
 #include "soak/RandomGame.h"
 
 #include <cstdlib>
@@ -78,7 +79,7 @@ RandomGame::RandomGame(std::uint32_t seed) : dice(seed) {
             RandomMap(seed * 3 + static_cast<std::uint32_t>(i));
     }
     services.Files["Z:\\game\\Default.TBL"] = seed % 3 == 0 ? "m0\nm1\n" : "m0\nm1\nm2\nm0\n";
-    // Half of the sessions are first starts, with all the questions.
+    // Half of the games begin with a first start, with all its questions.
     if (seed % 2 == 0) {
         services.Settings() =
             "[Level]\nLOAD=m0.TBM\n[AutoMove]\nMOVE=True\nMODE=" + std::to_string(seed / 2 % 4) +

@@ -1,5 +1,6 @@
-// A seeded player on seeded maps: whole sessions of the program, with first starts, a map list,
-// deaths, wins and menu entries, as far from careful play as it gets.
+// A seeded player on seeded maps: the program from start to start, with first starts, a map list,
+// deaths, wins and menu entries, as far from careful play as it gets. A seed goes in, a game to
+// play and hash comes out. tumbledeep-soak and the tests of play as a whole use it.
 #pragma once
 
 #include "base/Hash.h"
@@ -14,12 +15,13 @@
 
 namespace tumbledeep {
 
-/// Choices from one generator, so that a seed names a whole session on every host.
+/// Choices from one generator, so that a seed names a whole game on every host.
 class Dice {
   public:
     explicit Dice(std::uint32_t seed) { random.Seed(seed); }
     /// A whole number from 0, below a limit.
     int Below(int limit) { return static_cast<int>(random.Rnd() * static_cast<float>(limit)); }
+    /// True once in so many times.
     bool Once(int in) { return Below(in) == 0; }
     /// A word of a text, whose words stand one blank apart; two blanks make an empty one.
     std::string OneOf(std::string_view words) {
@@ -35,15 +37,16 @@ class Dice {
 /// The text of a map whose mixture of kinds is the seed's own.
 std::string RandomMap(std::uint32_t seed);
 
+/// The program in memory with a player whose every act is drawn from the seed.
 class RandomGame {
   public:
     explicit RandomGame(std::uint32_t seed);
 
     /// One period of the timer, with whatever the player does in it. When the process has ended,
-    /// the next one starts.
+    /// the period starts the next one instead.
     void Period();
-    /// Takes all into a hash: the board, the view, the captions, the settings and all that the
-    /// program has asked for.
+    /// Takes the state into a hash: the board, the view, the captions, the settings and all that
+    /// the program has asked for since the last call.
     void AddTo(Hash& hash);
 
   private:

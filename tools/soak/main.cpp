@@ -1,5 +1,6 @@
-// tumbledeep-soak: plays random games for as long as one likes, for the sanitizers to watch.
-// What it prints tells two builds apart: one line for each seed, with the hash of all its states.
+// tumbledeep-soak: plays random games for as long as one likes, for the sanitizers to watch. It
+// prints a line for each seed with the hash of all its states, which tells two builds apart. The
+// games are RandomGame.h's.
 #include "soak/RandomGame.h"
 
 #include "base/Number.h"
@@ -21,11 +22,11 @@ int main(int argc, char** argv) {
         numbers.at(i) = *number;
     }
     for (std::int64_t seed = numbers[0]; seed < numbers[0] + numbers[1]; ++seed) {
-        RandomGame session(static_cast<std::uint32_t>(seed));
+        RandomGame game(static_cast<std::uint32_t>(seed));
         Hash hash;
         for (std::int64_t period = 0; period < numbers[2]; ++period) {
-            session.Period();
-            session.AddTo(hash);
+            game.Period();
+            game.AddTo(hash);
         }
         std::cout << seed << ' ' << std::hex << hash.Value() << std::dec << std::endl;
     }
