@@ -25,7 +25,8 @@ bool IsWhole(const NumberPrefix& number, std::string_view text);
 /// number included, and for a number that the type can't hold.
 std::optional<std::int64_t> ReadInteger(std::string_view text);
 
-/// The shortest text that reads back as this number, without an exponent: "360", "0.5", "-0".
+/// The number as std::to_chars writes it in fixed notation, without an exponent: "360", "0.5",
+/// "-0".
 std::string FixedText(float value);
 std::string FixedText(double value);
 

@@ -141,8 +141,8 @@ class Board {
     /// a tick if the clock runs.
     Outcome Period(std::string_view letters, HeldKeys held);
 
-    // The routines of the clock, in its order. Each gives every sprite of its kind one turn, and
-    // leaves in `Result` whether the map is over.
+    // The routines of the clock, in its order. Those named for a kind give each of its visible
+    // sprites one turn. `Result` is written only when the map ends.
 
     void CheckGameEnd();
     void FactoryTick();

@@ -38,8 +38,8 @@ inline constexpr Offset ToLeft{-1, 0};
 inline constexpr Offset Above{0, -1};
 inline constexpr Offset Below{0, 1};
 
-/// The nearest whole number, a tie going to the even one, as a column or row. One that lies far
-/// outside the grid, too large for an int perhaps, becomes -1, which is outside as well.
+/// The nearest whole number as a column or row, a tie going to the even one. A number far outside
+/// the grid becomes -1, which is outside as well, since an int might not hold it.
 constexpr int GridIndex(float value) {
     constexpr float farthest = 1000.0F; // any number above 300 that an int can hold
     const float whole = RoundToEven(value);

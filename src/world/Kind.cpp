@@ -31,8 +31,8 @@ constexpr KindRow Drawn(Kind kind, Names names, int stamped, Picture first, int 
             members, stamped,    false,          Away,         Away};
 }
 
-/// A mine with a heading. It shows `bare` until it has a heading of the map or turns, and then one
-/// of the four pictures from `up` on.
+/// A mine with a heading. It shows one of the four pictures from `up` on, or `bare` until set-up or
+/// its first turn has given it one of those.
 constexpr KindRow Headed(Kind kind, Names names, int stamped, Picture bare, Picture up) {
     return {kind, names.Text, names.PoolName, TagUse::Heading, bare, up, 0, stamped, false,
             Away, Away};

@@ -1,5 +1,5 @@
-// The pictures by number. A sprite holds such a number as its look; the rules only ever copy it.
-// The drawings are in pictures/, which kind shows which is told in world/Kind.cpp.
+// The pictures by number. A sprite holds such a number as its look; no rule depends on it. The
+// drawings are in pictures/, and which kind shows which is told in world/Kind.cpp.
 #pragma once
 
 #include "world/Heading.h"
