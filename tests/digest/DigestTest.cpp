@@ -18,12 +18,12 @@ constexpr std::uint32_t Seeds = 60;
 constexpr int Periods = 400;
 
 std::string Track(std::uint32_t seed) {
-    RandomGame session(seed);
+    RandomGame game(seed);
     Hash hash;
     std::string letters;
     for (int period = 0; period < Periods; ++period) {
-        session.Period();
-        session.AddTo(hash);
+        game.Period();
+        game.AddTo(hash);
         letters += static_cast<char>('a' + hash.Value() % 26);
     }
     std::ostringstream line;
