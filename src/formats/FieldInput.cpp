@@ -18,6 +18,7 @@ Record FieldInput::Next() {
     Record record{"", line, static_cast<int>(position - lineStart) + 1};
     if (!AtEnd() && text[position] == '"') {
         ++position;
+        ++record.Column;
         record.Text = Until("\"");
         Until(",\r\n");
     } else {

@@ -96,9 +96,9 @@ void ScriptedPlatform::Shell(const std::string& commandLine) {
 void ScriptedPlatform::Ending() { out << "end\n"; }
 
 std::string ScriptedPlatform::OpenForInput(const std::string& path) {
-    const std::filesystem::path file = FindFile(HostPath(path));
+    missing.clear();
     try {
-        return ReadFile(file);
+        return ReadFile(FindFile(HostPath(path)));
     } catch (const Failure& failure) {
         if (failure.Number == Failure::FileNotFound) missing = getfilename(path);
         throw;

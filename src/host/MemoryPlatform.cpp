@@ -50,7 +50,8 @@ std::string MemoryPlatform::OpenForInput(const std::string& path) {
 
 std::string MemoryPlatform::GetPrivateProfileString(std::string_view section, std::string_view key,
                                                     const std::string& path) {
-    return ProfileValue(Files[path], section, key);
+    const auto file = Files.find(path);
+    return file == Files.end() ? "" : ProfileValue(file->second, section, key);
 }
 
 void MemoryPlatform::WritePrivateProfileString(std::string_view section, std::string_view key,

@@ -55,7 +55,7 @@ MenuEntry& frmMain::Entry(std::string_view name) {
     return *found;
 }
 
-std::string frmMain::ChooseFile(const std::string& filter) {
+std::string frmMain::ChooseFile(const std::string& filter) const {
     return Services.ShowOpen({"Open", Services.AppPath(), filter});
 }
 

@@ -65,11 +65,11 @@ class frmDocument : public Board {
 
     /// Moves the window so that the player stands in the middle of the parent. The player's cell is
     /// Board::YouStart's.
-    void YouStart();
+    void CentreOnYou();
     /// Board::ResetStart with a seed of the platform's, and the choice of the following view.
     void ResetStart();
     /// Writes into the settings whether the next start plays the last map.
-    void StartLastMap(bool on);
+    void StartLastMap(bool on) const;
     /// Shows the boxes that follow a win or a death, starts the next process if the player goes on,
     /// and ends this one. `outcome` is not Running.
     [[noreturn]] void EndMap(Outcome outcome);
@@ -95,6 +95,10 @@ class frmDocument : public Board {
     void AutoMoveChange(bool on, ViewMode mode);
 
   private:
+    // A tick that the window does not see would leave it behind.
+    using Board::Period;
+    using Board::Tick;
+
     /// Sets `MapRight` and `MapBottom`.
     void MeasureMap();
 };

@@ -54,12 +54,12 @@ class frmMain {
     /// Starts the first map of the list in use, in a new process.
     void MnuBeginagain_Click();
     /// The file name of the list in use.
-    std::string ListInUse();
+    std::string ListInUse() const;
     /// The records of a map list in a directory; tells the player and ends the process if the list
     /// can't be opened.
-    std::vector<Record> OpenMapList(const std::string& directory, const std::string& name);
+    std::vector<Record> OpenMapList(const std::string& directory, const std::string& name) const;
     /// The first record of a map list; tells the player and ends the process if there is none.
-    std::string FirstOfMapList(const std::string& directory, const std::string& name);
+    std::string FirstOfMapList(const std::string& directory, const std::string& name) const;
     /// Starts the program anew and ends this process. `argument` is put right behind the program's
     /// name: "", or a text that begins with a blank.
     [[noreturn]] void Relaunch(const std::string& argument);
@@ -79,7 +79,7 @@ class frmMain {
     /// Turns the entry's check mark over, and the setting behind it.
     void MnuStartLastMap_Click();
     /// Shows the open dialog; the path chosen, "" when cancelled.
-    std::string ChooseFile(const std::string& filter);
+    std::string ChooseFile(const std::string& filter) const;
 
   private:
     // The parts of StartupLoad; their bodies are in flow/StartupLoad.cpp.

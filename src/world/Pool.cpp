@@ -98,7 +98,8 @@ void Pool::AddTo(Hash& hash) const {
 }
 
 bool operator==(const Pool& a, const Pool& b) {
-    if (a.texts == b.texts) return a.sprites == b.sprites;
+    // Beyond those that are looked through, a text may be kept twice under two numbers.
+    if (a.texts == b.texts && a.texts.size() <= TextsCompared) return a.sprites == b.sprites;
     for (int i = 0; i < std::min(a.Count(), b.Count()); ++i) {
         Sprite own = a[i];
         own.Tag = b[i].Tag;

@@ -28,7 +28,7 @@ struct Sprite {
     float Top = 0.0F;
     TagNumber Tag = TagNumber::None;
     bool Visible = false; ///< in play; a hidden sprite is gone, or was never there
-    tumbledeep::Picture Look = Picture::None;
+    Picture Look = Picture::None;
 
     /// Positions compare by their bits: minus zero is another place than zero. Only sprites of one
     /// pool can be compared, as another pool may number its tags otherwise.

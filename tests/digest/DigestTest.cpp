@@ -31,7 +31,7 @@ std::string Track(std::uint32_t seed) {
     return line.str();
 }
 
-TEST(Digest, SessionsPlayAsTheyDid) {
+TEST(Digest, GamesPlayAsTheyDid) {
     if (std::getenv("TUMBLEDEEP_WRITE_DIGEST") != nullptr) {
         std::ofstream file(TUMBLEDEEP_DIGEST);
         for (std::uint32_t seed = 1; seed <= Seeds; ++seed) file << Track(seed) << '\n';

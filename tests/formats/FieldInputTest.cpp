@@ -21,9 +21,9 @@ TEST(FieldInput, RecordsEndAtCommasAndLineEnds) {
                                         {"a,\nb", {"1:1 a", "1:3 ", "2:1 b"}},
                                         {"a,", {"1:1 a"}},
                                         {"   ", {"1:4 "}},
-                                        {"\"a,b\nc\" junk \"x\",d", {"1:1 a,b\nc", "2:13 d"}},
-                                        {" \"a\"\r\n\"b\"", {"1:2 a", "2:1 b"}},
-                                        {"\"open\nend,", {"1:1 open\nend,"}},
+                                        {"\"a,b\nc\" junk \"x\",d", {"1:2 a,b\nc", "2:13 d"}},
+                                        {" \"a\"\r\n\"b\"", {"1:3 a", "2:2 b"}},
+                                        {"\"open\nend,", {"1:2 open\nend,"}},
                                         {"say \"hi\"", {"1:1 say \"hi\""}}}) {
         FieldInput input(text);
         Records read;

@@ -15,8 +15,8 @@ namespace fs = std::filesystem;
 
 /// The folder every_verb with its map, its script and the lines that are expected, and what the
 /// program says there.
-struct Session {
-    Session() { fs::copy(TUMBLEDEEP_EVERY_VERB, Folder.Path); }
+struct Played {
+    Played() { fs::copy(TUMBLEDEEP_EVERY_VERB, Folder.Path); }
     int Call(const std::string& words) {
         const std::string call = "cd " + Folder.Path.string() +
                                  " && { " TUMBLEDEEP_TRACE " --dir . " + words + "; } > said 2>&1";
@@ -29,13 +29,13 @@ struct Session {
 };
 
 TEST(Trace, PrintsAllOnceAndThenWhatChanges) {
-    Session run;
+    Played run;
     EXPECT_EQ(run.Call("--steps 40 --script hands.txt"), 0);
     EXPECT_EQ(run.Said, run.Folder.Read("expected.txt"));
 }
 
 TEST(Trace, CallsEndWithTheirStatus) {
-    Session run;
+    Played run;
     run.Folder.Write("yes", "answer yes\n");
     run.Folder.Write("bad", "at 1 type d\nat 1 leap\n");
     using Case = std::tuple<const char*, int, const char*>;

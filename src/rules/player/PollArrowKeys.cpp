@@ -5,6 +5,7 @@
 namespace tumbledeep {
 
 void Board::PollArrowKeys(HeldKeys held) {
+    Walks.Clear();
     // All four are read every time: a first step that leaves the player ready allows a second;
     // tests/films/PlayerTest.cpp pins it.
     for (const Heading way : Headings) {

@@ -13,7 +13,7 @@ void frmMain::LoadNewMap(FieldInput map) {
         // A title in the middle of a file stops the loading there until it is answered.
         if (line.What == MapLine::Is::Title) Services.MsgBox(line.Text, MsgBoxStyle::Ok);
         PutOnBoard(ActiveChild, line);
-        if (line.Which == Kind::You) ActiveChild.YouStart();
+        if (line.Which == Kind::You) ActiveChild.CentreOnYou();
     }
     // ResetStart comes last: it sets view flags that ResizeForm may have cleared.
     ActiveChild.ResetArea();
@@ -21,7 +21,7 @@ void frmMain::LoadNewMap(FieldInput map) {
     ActiveChild.ResetStart();
 }
 
-void frmDocument::YouStart() {
+void frmDocument::CentreOnYou() {
     Form.Top = Parent.Form.Height / 2.0F - You.Top;
     Form.Left = Parent.Form.Width / 2.0F - You.Left;
 }

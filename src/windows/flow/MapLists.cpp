@@ -9,12 +9,13 @@
 
 namespace tumbledeep {
 
-std::string frmMain::ListInUse() {
+std::string frmMain::ListInUse() const {
     const std::string list = IniRead(Services, "Level", "MapList");
     return (list.empty() ? "Default" : list) + ".TBL";
 }
 
-std::vector<Record> frmMain::OpenMapList(const std::string& directory, const std::string& name) {
+std::vector<Record> frmMain::OpenMapList(const std::string& directory,
+                                         const std::string& name) const {
     try {
         return ReadMapList(Services.OpenForInput(directory + "\\" + name));
     } catch (const Failure&) {
@@ -24,7 +25,7 @@ std::vector<Record> frmMain::OpenMapList(const std::string& directory, const std
     }
 }
 
-std::string frmMain::FirstOfMapList(const std::string& directory, const std::string& name) {
+std::string frmMain::FirstOfMapList(const std::string& directory, const std::string& name) const {
     const std::vector<Record> list = OpenMapList(directory, name);
     if (list.empty()) {
         Services.MsgBox("The map list " + getfilename(name) + " is empty.", MsgBoxStyle::Stop);
@@ -49,6 +50,8 @@ void frmMain::Relaunch(const std::string& argument) {
     Services.End();
 }
 
-void frmDocument::StartLastMap(bool on) { IniWrite(Services, "Level", "StartMap", BoolText(on)); }
+void frmDocument::StartLastMap(bool on) const {
+    IniWrite(Services, "Level", "StartMap", BoolText(on));
+}
 
 } // namespace tumbledeep

@@ -19,7 +19,7 @@ constexpr float EdgeGap = 180;
 constexpr float FarGapAcross = 540;
 
 /// Lays a board that does not fit on one axis: to the parent's edge if the player stands near one
-/// of the map's edges, the far one winning. Else it stays where YouStart has put it, with the
+/// of the map's edges, the far one winning. Else it stays where CentreOnYou has put it, with the
 /// player in the middle; tests/windows/ViewTest.cpp pins it.
 void LayAtEdge(float parentSize, float you, float boardSize, float atFarEdge, float& place) {
     if (parentSize / 2 > you) place = EdgeGap;
