@@ -153,8 +153,7 @@ class Board {
     void RockTick();
     void GemTick();
     void BangTick();
-    /// A step for each arrow key held, in the order up, down, left, right. Adds to `Walks`, which
-    /// Tick and MoveYou empty.
+    /// A step for each arrow key held, in the order up, down, left, right; `Walks` has those made.
     void PollArrowKeys(HeldKeys held);
     void ShowGemsRemaining() { GemsShown = GemsLeft; }
     void MinePPTick();
