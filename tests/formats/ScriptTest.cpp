@@ -13,13 +13,13 @@ namespace tumbledeep {
 TEST(Script, FaultsNameFileAndLine) {
     std::istringstream lines(
         "hello|answer|answer maybe|answer yes please|answer file|answer  yes|at|at 0 click|"
-        "at -1 click|at x click|at 1|at 1  click|at 1 jump|at 1 click twice|at 1 type|at 1 press "
+        "at -1 click|at x click|at 2|at 2  click|at 2 jump|at 2 click twice|at 2 type|at 2 press "
         "up|"
-        "at 1 press Up now|at 1 drag 5|at 1 drag 1 2 3|at 1 drag 1.5 2|at 1 menu MnuFile|"
-        "at 1 resize 100x|at 1 resize -1x5|at 99999999999999999999 click|At 1 click|at 3 click");
+        "at 2 press Up now|at 2 drag 5|at 2 drag 1 2 3|at 2 drag 1.5 2|at 2 menu MnuFile|"
+        "at 2 resize 100x|at 2 resize -1x5|at 99999999999999999999 click|At 1 click|at 1 click");
     for (std::string line; std::getline(lines, line, '|');) {
         try {
-            ReadScript("my.script", "at 4 click\n# a comment\n\n" + line + "\n", &IsMenuHandler);
+            ReadScript("my.script", "at 2 click\n# a comment\n\n" + line + "\n", &IsMenuHandler);
             ADD_FAILURE() << line;
         } catch (const ScriptFault& fault) {
             EXPECT_TRUE(std::string(fault.what()).starts_with("my.script:4: ")) << fault.what();
