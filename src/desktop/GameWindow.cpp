@@ -161,7 +161,9 @@ void GameWindow::ConnectCanvas() {
         Act({Do::Click});
         return true;
     };
-    canvas.BoardMouseMoved = [this] { Deliver([this] { game.ActiveChild.Form_MouseMove(1); }); };
+    canvas.BoardMouseMoved = [this] {
+        Deliver([this] { game.ActiveChild.Form_MouseMove(LeftButton); });
+    };
     canvas.BoardDragged = [this](float x, float y) {
         PlayerAct drag{Do::Drag};
         drag.X = x;

@@ -17,7 +17,6 @@ struct Record {
 
 class FieldInput {
   public:
-    FieldInput() = default;
     /// Takes the bytes of the file. Lines end in CR LF, LF alone or CR alone; a UTF-8 byte order
     /// mark in front is passed over.
     explicit FieldInput(std::string bytes);

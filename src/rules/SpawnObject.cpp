@@ -26,7 +26,7 @@ void Board::DrawPicture(Kind kind, int index) {
     const KindRow& row = RowOf(kind);
     if (row.PictureMembers == 0) return;
     const float member = static_cast<float>(row.PictureMembers - 1) * random.Rnd();
-    Pools[kind].Dress(index, Member(row.Template, GridIndex(member)));
+    Pools[kind].Dress(index, Member(row.Template, static_cast<int>(RoundToEven(member))));
 }
 
 } // namespace tumbledeep

@@ -16,6 +16,9 @@ struct Window {
     std::string Caption;
 };
 
+/// The game's number of the only mouse button that it heeds.
+inline constexpr int LeftButton = 1;
+
 /// A one-line text field; the place is in twips on its window.
 struct TextBox {
     float Left, Top, Width, Height;

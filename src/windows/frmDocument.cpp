@@ -8,12 +8,6 @@
 
 namespace tumbledeep {
 
-namespace {
-
-constexpr int LeftButton = 1;
-
-} // namespace
-
 frmDocument::frmDocument(frmMain& parent, Platform& services) : Parent(parent), Services(services) {
     Form.Caption = "Area";
 }

@@ -27,7 +27,6 @@ frmMain::frmMain(Platform& services)
 
 void frmMain::Take(const PlayerAct& act) {
     using Do = PlayerAct::Do;
-    constexpr int leftButton = 1;
     frmDocument& board = ActiveChild;
     switch (act.What) {
     case Do::Type:
@@ -36,7 +35,7 @@ void frmMain::Take(const PlayerAct& act) {
         break;
     case Do::Press: board.ArrowKeys.Set(act.Key, true); break;
     case Do::Release: board.ArrowKeys.Set(act.Key, false); break;
-    case Do::Click: board.Form_MouseDown(leftButton); break;
+    case Do::Click: board.Form_MouseDown(LeftButton); break;
     case Do::Drag:
         board.Form.Left += act.X;
         board.Form.Top += act.Y;

@@ -16,7 +16,7 @@ class AreaGrid {
 
     /// What a cell holds. One outside the grid reads as a wall.
     Kind operator()(int col, int row) const {
-        if (static_cast<unsigned>(col) < Cols() && static_cast<unsigned>(row) < Rows()) {
+        if (IsKept(col, row)) {
             return cells[Place(col, row)];
         }
         return InGrid(col, row) ? Kind::Empty : Kind::HardDirt;
@@ -26,8 +26,7 @@ class AreaGrid {
     /// Writes a cell. What is written outside the grid is dropped.
     void Set(Cell cell, Kind kind) {
         if (!InGrid(cell.Col, cell.Row)) return;
-        if (static_cast<unsigned>(cell.Col) >= Cols() ||
-            static_cast<unsigned>(cell.Row) >= Rows()) {
+        if (!IsKept(cell.Col, cell.Row)) {
             if (kind == Kind::Empty) return;
             Grow(cell);
         }
@@ -46,8 +45,9 @@ class AreaGrid {
     static constexpr bool InGrid(int col, int row) {
         return static_cast<unsigned>(col) < Size && static_cast<unsigned>(row) < Size;
     }
-    unsigned Cols() const { return cols; }
-    unsigned Rows() const { return rows; }
+    bool IsKept(int col, int row) const {
+        return static_cast<unsigned>(col) < cols && static_cast<unsigned>(row) < rows;
+    }
     std::size_t Place(int col, int row) const {
         return static_cast<std::size_t>(col) + static_cast<std::size_t>(row) * cols;
     }
