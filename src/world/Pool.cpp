@@ -31,7 +31,9 @@ int Pool::Add() {
     Sprite added = sprites.front();
     added.Visible = false;
     sprites.push_back(added);
-    return Count() - 1;
+    const int index = Count() - 1;
+    changed.set(static_cast<std::size_t>(index / ChunkSize));
+    return index;
 }
 
 std::optional<Heading> Pool::HeadingOf(int index) const {

@@ -8,9 +8,11 @@
 #include "world/Picture.h"
 
 #include <bit>
+#include <bitset>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tumbledeep {
@@ -77,6 +79,13 @@ class Pool {
     /// Sets the tag to any text: the letter of a heading, a recipe, "" for none.
     void SetTag(int index, std::string_view text);
 
+    /// Sprites to a chunk, the unit in which changes are noted: the first chunk is index 0 to 63.
+    static constexpr int ChunkSize = 64;
+    using Chunks = std::bitset<Limit / ChunkSize + 1>;
+    /// The chunks in which a sprite has been changed or added since the last call, for a window
+    /// that shows the pool. It is no part of the state and does not count in comparisons.
+    Chunks TakeChanges() { return std::exchange(changed, {}); }
+
     // Scans. Each costs time in proportion to the pool.
 
     /// The highest index of a hidden sprite, -1 when all are visible.
@@ -127,10 +136,15 @@ class Pool {
     friend bool operator==(const Pool& a, const Pool& b);
 
   private:
-    Sprite& At(int index) { return sprites[static_cast<std::size_t>(index)]; }
+    /// The sprite to be changed.
+    Sprite& At(int index) {
+        changed.set(static_cast<std::size_t>(index / ChunkSize));
+        return sprites[static_cast<std::size_t>(index)];
+    }
     std::string_view TextOf(TagNumber tag) const;
 
     std::vector<Sprite> sprites;
+    Chunks changed{1};              // the template is new
     std::vector<std::string> texts; ///< tags that are no heading, by TagNumber from 5 on
 };
 
