@@ -65,7 +65,7 @@ void Trace::Cells(const frmDocument& board) {
     if (board.Area == lastArea) return;
     // A grid never gives up room that it has taken, so this one covers what was printed too.
     for (int row = 0; row < board.Area.UsedRows(); ++row) {
-        for (int col = 0; col < board.Area.UsedCols(); ++col) {
+        for (int col = 0; col < GridSize; ++col) {
             const Kind kind = board.Area(col, row);
             if (kind == lastArea(col, row)) continue;
             Out() << "cell " << col << ' ' << row << " \"" << KindText(kind) << "\"\n";

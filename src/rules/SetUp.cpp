@@ -41,7 +41,7 @@ void Board::ResetStart(std::uint32_t seed) {
 
 void Board::Stamp(Kind kind) {
     const Pool& pool = Pools[kind];
-    for (const int index : pool.InTurn()) Area.Set(CellOf(pool[index]), kind);
+    for (const int index : pool.InTurn()) Area.Set(pool.CellOf(index), kind);
 }
 
 } // namespace tumbledeep

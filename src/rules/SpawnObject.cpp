@@ -19,7 +19,7 @@ void Board::SpawnObject(Kind kind, float left, float top, Heading tag) {
     if (IsMine(kind)) pool.SetHeading(index, tag);
     // A quirk that maps play with: an added sprite leaves its cell as it is, so that what a factory
     // makes may stand unseen by the rules until it moves; tests/films/FactoryTest.cpp pins it.
-    if (reused) Area.Set(CellOf(pool[index]), kind);
+    if (reused) Area.Set(pool.CellOf(index), kind);
 }
 
 void Board::DrawPicture(Kind kind, int index) {

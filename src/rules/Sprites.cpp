@@ -8,13 +8,13 @@ namespace tumbledeep {
 
 void Board::MoveSprite(Kind kind, int index, Offset offset) {
     Pool& pool = Pools[kind];
-    Area.Set(CellOf(pool[index]), Kind::Empty);
-    Area.Set(CellOf(pool[index], offset), kind);
+    Area.Set(pool.CellOf(index), Kind::Empty);
+    Area.Set(pool.CellOf(index, offset), kind);
     pool.Move(index, offset);
 }
 
 void Board::TakeAway(Kind kind, int index) {
-    Area.Set(CellOf(Pools[kind][index]), Kind::Empty);
+    Area.Set(Pools[kind].CellOf(index), Kind::Empty);
     Pools[kind].Hide(index);
 }
 
@@ -27,16 +27,18 @@ RollSide Board::DrawRollSide() { return random.Rnd() < 0.5F ? RollSide::Right : 
 
 void Board::Roll(Kind kind, int index, RollSide side) {
     const Offset way = side == RollSide::Right ? ToRight : ToLeft;
-    const Sprite& sprite = Pools[kind][index];
-    if (Area(CellOf(sprite, way + Below)) == Kind::Empty &&
-        Area(CellOf(sprite, way)) == Kind::Empty) {
+    const Pool& pool = Pools[kind];
+    if (Area(pool.CellOf(index, way + Below)) == Kind::Empty &&
+        Area(pool.CellOf(index, way)) == Kind::Empty) {
         MoveSprite(kind, index, way);
     }
 }
 
-bool Board::TouchesYou(const Sprite& sprite) const {
-    return std::any_of(Headings.begin(), Headings.end(),
-                       [&](Heading way) { return Area(CellOf(sprite, Ahead(way))) == Kind::You; });
+bool Board::TouchesYou(Kind kind, int index) const {
+    const Pool& pool = Pools[kind];
+    return std::any_of(Headings.begin(), Headings.end(), [&](Heading way) {
+        return Area(pool.CellOf(index, Ahead(way))) == Kind::You;
+    });
 }
 
 } // namespace tumbledeep

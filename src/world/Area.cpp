@@ -1,35 +1,27 @@
-// The memory of the grid. It grows by strips, since a map may be written in any order, so two grids
-// of equal cells can be of unequal size; they compare by their cells.
+// The memory of the grid. It grows by whole rows, so two grids of equal cells can be of unequal size;
+// they compare by their cells.
 #include "world/Area.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace tumbledeep {
 
-void AreaGrid::Grow(Cell cell) {
-    constexpr unsigned strip = 16;
-    const auto fit = [](unsigned now, int index) {
-        const unsigned needed = (static_cast<unsigned>(index) / strip + 1) * strip;
-        return std::max(now, std::min(needed, unsigned{Size}));
-    };
-    const unsigned newCols = fit(cols, cell.Col);
-    const unsigned newRows = fit(rows, cell.Row);
-    std::vector<Kind> grown(std::size_t{newCols} * newRows, Kind::Empty);
-    for (std::size_t row = 0; row < rows; ++row) {
-        std::copy_n(cells.data() + row * cols, cols, grown.data() + row * newCols);
+void AreaGrid::GrowTo(int row) {
+    for (int next = UsedRows(); next <= row; ++next) {
+        cells.resize(cells.size() + Cell::RowLength, Kind::HardDirt);
+        if (next < 0) continue;
+        std::fill_n(cells.begin() + Cell(0, next).Number(), GridSize, Kind::Empty);
     }
-    cells = std::move(grown);
-    cols = newCols;
-    rows = newRows;
 }
 
 bool operator==(const AreaGrid& a, const AreaGrid& b) {
-    if (a.cols == b.cols && a.rows == b.rows) return a.cells == b.cells;
-    const int cols = std::max(a.UsedCols(), b.UsedCols());
-    const int rows = std::max(a.UsedRows(), b.UsedRows());
-    for (int row = 0; row < rows; ++row) {
-        for (int col = 0; col < cols; ++col) {
-            if (a(col, row) != b(col, row)) return false;
+    const AreaGrid& less = a.cells.size() < b.cells.size() ? a : b;
+    const AreaGrid& more = &less == &a ? b : a;
+    if (std::memcmp(less.cells.data(), more.cells.data(), less.cells.size()) != 0) return false;
+    for (int row = std::max(0, less.UsedRows()); row < more.UsedRows(); ++row) {
+        for (int col = 0; col < GridSize; ++col) {
+            if (more(col, row) != Kind::Empty) return false;
         }
     }
     return true;

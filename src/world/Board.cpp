@@ -45,10 +45,10 @@ std::uint64_t Board::HashValue() const {
     for (const std::int16_t counter : FactoryCount) hash.Add(counter);
     // How much of the grid is kept depends on the past; empty cells say nothing.
     for (int row = 0; row < Area.UsedRows(); ++row) {
-        for (int col = 0; col < Area.UsedCols(); ++col) {
+        for (int col = 0; col < GridSize; ++col) {
             const Kind kind = Area(col, row);
             if (kind == Kind::Empty) continue;
-            hash.Add((row * AreaGrid::Size + col) * static_cast<int>(KindCount) +
+            hash.Add((row * GridSize + col) * static_cast<int>(KindCount) +
                      static_cast<int>(kind));
         }
     }

@@ -179,8 +179,8 @@ class Board {
     RollSide DrawRollSide();
     /// Moves a sprite one cell to a side, if the cell there and the one below that are empty.
     void Roll(Kind kind, int index, RollSide side);
-    /// True when the player stands right above, below, left or right of the sprite's cell.
-    bool TouchesYou(const Sprite& sprite) const;
+    /// True when the player stands right above, below, left or right of a sprite's cell.
+    bool TouchesYou(Kind kind, int index) const;
     /// The death of the player, which ends the tick. Who calls it returns at once.
     void YouDie() { Die(Outcome::Died); }
     /// The same with the outcome given, Died or DiedUntold.

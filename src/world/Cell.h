@@ -16,12 +16,8 @@ inline constexpr float SpriteSize = 375.0F;
 /// Positions are in twips: fifteen to a pixel of the game.
 inline constexpr float TwipsPerPixel = 15.0F;
 
-/// A column and a row of the grid, on it or not.
-struct Cell {
-    int Col;
-    int Row;
-    friend constexpr bool operator==(Cell, Cell) = default;
-};
+/// Columns of the grid, and rows: both from 0 to 300.
+inline constexpr int GridSize = 301;
 
 /// A distance in whole cells; columns grow to the right and rows downward.
 struct Offset {
@@ -38,12 +34,48 @@ inline constexpr Offset ToLeft{-1, 0};
 inline constexpr Offset Above{0, -1};
 inline constexpr Offset Below{0, 1};
 
-/// The nearest whole number as a column or row, a tie going to the even one. A number far outside
-/// the grid becomes -1, which is outside as well, since an int might not hold it.
+/// A column and a row, on the grid or beside it, as one small number, to which a step in a direction
+/// adds the same amount everywhere.
+class Cell {
+  public:
+    /// So far beside the grid, cells are told apart: as far as any rule looks from a sprite.
+    static constexpr int Margin = 2;
+    /// Numbers to a row. A power of two, so that column and row are a few bits of the number.
+    static constexpr int RowLength = 512;
+
+    /// Cells farther outside than the margin are all alike, and a step from one never leads in.
+    constexpr Cell(int col, int row)
+        : number(static_cast<unsigned>(Lane(row) * RowLength + Lane(col))) {}
+    static constexpr Cell Numbered(unsigned number) { return Cell(number); }
+
+    constexpr unsigned Number() const { return number; }
+    constexpr int Col() const { return static_cast<int>(number % RowLength) - Margin; }
+    constexpr int Row() const { return static_cast<int>(number / RowLength) - Margin; }
+    constexpr bool InGrid() const {
+        return static_cast<unsigned>(Col()) < GridSize && static_cast<unsigned>(Row()) < GridSize;
+    }
+    constexpr Cell operator+(Offset offset) const {
+        return Cell(number + static_cast<unsigned>(offset.Row * RowLength + offset.Col));
+    }
+    friend constexpr bool operator==(Cell, Cell) = default;
+
+  private:
+    constexpr explicit Cell(unsigned cellNumber) : number(cellNumber) {}
+    static constexpr int Lane(int index) {
+        constexpr int farOutside = 400; // beyond the last row or column, with room for a step back
+        return index >= -Margin && index < farOutside ? index + Margin : farOutside + Margin;
+    }
+
+    unsigned number;
+};
+
+/// The nearest whole number as a column or row, a tie going to the even one. Numbers farther outside
+/// the grid than any rule looks all give one that is outside too, since an int might not hold them.
 constexpr int GridIndex(float value) {
-    constexpr float farthest = 1000.0F; // any number above 300 that an int can hold
+    constexpr float farthest = 1000.0F;
     const float whole = RoundToEven(value);
-    return whole >= -1.0F && whole <= farthest ? static_cast<int>(whole) : -1;
+    const bool near = whole >= static_cast<float>(-Cell::Margin) && whole <= farthest;
+    return near ? static_cast<int>(whole) : static_cast<int>(farthest);
 }
 
 /// The column or row of a position in twips, not rounded, `cells` added to it.
@@ -56,6 +88,14 @@ constexpr float GridPlace(float twips, int cells = 0) {
 template <class AnySprite> constexpr Cell CellOf(const AnySprite& sprite, Offset offset = Here) {
     return {GridIndex(GridPlace(sprite.Left, offset.Col)),
             GridIndex(GridPlace(sprite.Top, offset.Row))};
+}
+
+/// Whether a column or row, not rounded, lies so close to the middle between two whole numbers that
+/// CellOf can give other neighbours than a step from the nearest one. Single precision is off by
+/// less than this margin everywhere on the grid.
+constexpr bool IsBetween(float place) {
+    const float aside = place - RoundToEven(place);
+    return aside > 0.499F || aside < -0.499F;
 }
 
 /// Moves anything with `Left` and `Top` by whole cells. An axis without a shift is not touched:

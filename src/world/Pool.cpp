@@ -25,13 +25,20 @@ TagNumber NumberOf(Heading heading) {
 } // namespace
 
 Pool::Pool(const KindRow& row)
-    : sprites{{row.TemplateLeft, row.TemplateTop, TagNumber::None, false, row.Template}} {}
+    : sprites{{row.TemplateLeft, row.TemplateTop, TagNumber::None, false, row.Template}},
+      cells{HiddenBit} {
+    hidden.Insert(0);
+    Settle(0);
+}
 
 int Pool::Add() {
     Sprite added = sprites.front();
     added.Visible = false;
     sprites.push_back(added);
+    cells.push_back(cells.front() | HiddenBit);
     const int index = Count() - 1;
+    hidden.Insert(index);
+    allSpots.Forget();
     changed.set(static_cast<std::size_t>(index / ChunkSize));
     return index;
 }
@@ -68,23 +75,36 @@ void Pool::SetTag(int index, std::string_view text) {
     At(index).Tag = static_cast<TagNumber>(FirstText + (found - texts.begin()));
 }
 
-int Pool::LastHidden() const {
-    const auto hidden = std::find_if(sprites.rbegin(), sprites.rend(),
-                                     [](const Sprite& sprite) { return !sprite.Visible; });
-    return static_cast<int>(sprites.rend() - hidden) - 1;
+void Pool::PutLeft(int index, float left) {
+    At(index).Left = left;
+    Settle(index);
 }
 
-int Pool::HiddenCount() const {
-    return static_cast<int>(std::count_if(sprites.begin(), sprites.end(),
-                                          [](const Sprite& sprite) { return !sprite.Visible; }));
+void Pool::PutTop(int index, float top) {
+    At(index).Top = top;
+    Settle(index);
 }
 
-int Pool::NextAt(int from, float left, float top) const {
-    const auto found =
-        std::find_if(sprites.begin() + from, sprites.end(), [left, top](const Sprite& sprite) {
-            return sprite.Top == top && sprite.Left - 1.0F < left && left < sprite.Left + 1.0F;
-        });
-    return static_cast<int>(found - sprites.begin());
+void Pool::Settle(int index) {
+    const Sprite& sprite = (*this)[index];
+    unsigned& cell = CellWord(index);
+    const bool between = IsBetween(GridPlace(sprite.Left)) || IsBetween(GridPlace(sprite.Top));
+    cell = tumbledeep::CellOf(sprite).Number() | (between ? BetweenBit : 0U) | (cell & HiddenBit);
+    ForgetSpots();
+}
+
+std::span<const int> Pool::VisibleAt(float left, float top) {
+    if (!visibleSpots.IsMade()) visibleSpots.Make(sprites, false);
+    lookedUp.clear();
+    visibleSpots.Find(sprites, false, left, top, lookedUp);
+    return lookedUp;
+}
+
+std::span<const int> Pool::AllAt(float left, float top) {
+    if (!allSpots.IsMade()) allSpots.Make(sprites, true);
+    lookedUp.clear();
+    allSpots.Find(sprites, true, left, top, lookedUp);
+    return lookedUp;
 }
 
 void Pool::AddTo(Hash& hash) const {

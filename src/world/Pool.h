@@ -1,15 +1,17 @@
 // A pool: the growable row of sprites of one kind, from a hidden template at index 0. Rules read
-// the sprites freely and change one only by the functions below, so that a pool can keep more
-// beside the sprites, such as an index of them, and know when it changes. Pools know nothing of the
-// grid: a rule that moves a sprite writes the cells too, mostly by way of Board::MoveSprite.
+// the sprites freely and change one only by the functions below, so that the pool can keep their
+// cells, the hidden ones and an index by place beside them, and no rule needs to look through it.
+// Pools know nothing of what the grid holds: a rule that moves a sprite writes the cells too, mostly
+// by way of Board::MoveSprite.
 #pragma once
 
 #include "world/Heading.h"
-#include "world/Picture.h"
+#include "world/IndexSet.h"
+#include "world/SpotIndex.h"
+#include "world/Sprite.h"
 
-#include <bit>
 #include <bitset>
-#include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -19,27 +21,6 @@ namespace tumbledeep {
 
 class Hash;
 struct KindRow;
-
-/// The tag of a sprite by number: none, a heading's letter, or a text that the pool keeps. Only
-/// that pool can tell the text; see TagText.
-enum class TagNumber : std::uint16_t { None };
-
-/// One sprite as a pool keeps it.
-struct Sprite {
-    float Left = 0.0F; ///< in twips on the board, as is `Top`
-    float Top = 0.0F;
-    TagNumber Tag = TagNumber::None;
-    bool Visible = false; ///< in play; a hidden sprite is gone, or was never there
-    Picture Look = Picture::None;
-
-    /// Positions compare by their bits: minus zero is another place than zero. Only sprites of one
-    /// pool can be compared, as another pool may number its tags otherwise.
-    friend bool operator==(const Sprite& a, const Sprite& b) {
-        const auto bits = [](float value) { return std::bit_cast<std::uint32_t>(value); };
-        return bits(a.Left) == bits(b.Left) && bits(a.Top) == bits(b.Top) && a.Tag == b.Tag &&
-               a.Visible == b.Visible && a.Look == b.Look;
-    }
-};
 
 class Pool {
   public:
@@ -58,6 +39,13 @@ class Pool {
     auto begin() const { return sprites.begin(); }
     auto end() const { return sprites.end(); }
 
+    /// The cell of a sprite, or one up to two cells from it. As CellOf in Cell.h gives it, and
+    /// mostly without reckoning.
+    Cell CellOf(int index, Offset offset = Here) const {
+        const unsigned cell = cells[static_cast<std::size_t>(index)] & ~HiddenBit;
+        if (cell < BetweenBit) [[likely]] return Cell::Numbered(cell) + offset;
+        return tumbledeep::CellOf((*this)[index], offset);
+    }
     /// The heading in a sprite's tag; none if the tag is anything else.
     std::optional<Heading> HeadingOf(int index) const;
     /// A sprite's tag as a text, "" without one. Good until the next SetTag.
@@ -69,11 +57,32 @@ class Pool {
 
     // What changes a sprite. Positions are in twips.
 
-    void PutLeft(int index, float left) { At(index).Left = left; }
-    void PutTop(int index, float top) { At(index).Top = top; }
-    void Move(int index, Offset offset) { ShiftByCells(At(index), offset); }
-    void Show(int index) { At(index).Visible = true; }
-    void Hide(int index) { At(index).Visible = false; }
+    void PutLeft(int index, float left);
+    void PutTop(int index, float top);
+    void Move(int index, Offset offset) {
+        Sprite& sprite = At(index);
+        unsigned& cell = CellWord(index);
+        const Sprite before = sprite;
+        ShiftByCells(sprite, offset);
+        ForgetSpots();
+        // A sum that is exact leaves the sprite where it was within its cell.
+        const bool exact = sprite.Left - before.Left == static_cast<float>(offset.Col) * Pitch &&
+                           sprite.Top - before.Top == static_cast<float>(offset.Row) * Pitch;
+        const Cell from = Cell::Numbered(cell & ~HiddenBit);
+        if (!exact || !from.InGrid()) return Settle(index);
+        cell = (from + offset).Number() | (cell & HiddenBit);
+    }
+    void Show(int index) {
+        At(index).Visible = true;
+        CellWord(index) &= ~HiddenBit;
+        hidden.Erase(index);
+        visibleSpots.Forget();
+    }
+    void Hide(int index) {
+        At(index).Visible = false;
+        CellWord(index) |= HiddenBit;
+        hidden.Insert(index);
+    }
     void Dress(int index, Picture look) { At(index).Look = look; }
     void SetHeading(int index, Heading heading);
     /// Sets the tag to any text: the letter of a heading, a recipe, "" for none.
@@ -86,15 +95,17 @@ class Pool {
     /// that shows the pool. It is no part of the state and does not count in comparisons.
     Chunks TakeChanges() { return std::exchange(changed, {}); }
 
-    // Scans. Each costs time in proportion to the pool.
+    // What would take a look through the pool, at hand.
 
     /// The highest index of a hidden sprite, -1 when all are visible.
-    int LastHidden() const;
+    int LastHidden() const { return hidden.Last(); }
     /// How many sprites are hidden, the template among them.
-    int HiddenCount() const;
-    /// The first index from `from` on whose sprite stands at `top` exactly and less than 1 twip
-    /// from `left`, visible or not; Count() when there is none.
-    int NextAt(int from, float left, float top) const;
+    int HiddenCount() const { return hidden.Count(); }
+    /// The indexes, rising, of the sprites that stand at `top` exactly and less than 1 twip from
+    /// `left`: all that are visible. Good until the next call of this or AllAt.
+    std::span<const int> VisibleAt(float left, float top);
+    /// The same with the hidden ones.
+    std::span<const int> AllAt(float left, float top);
 
     /// The turns of a routine of the clock: the index of each visible sprite, rising. The count is
     /// read once, so a sprite added meanwhile has no turn. Whether a sprite is visible is asked
@@ -116,7 +127,7 @@ class Pool {
 
           private:
             void PassHidden() {
-                while (index < last && !(*of)[index].Visible) ++index;
+                while (index < last && of->IsHidden(index)) ++index;
             }
             const Pool* of;
             int index;
@@ -143,7 +154,27 @@ class Pool {
     }
     std::string_view TextOf(TagNumber tag) const;
 
+    bool IsHidden(int index) const {
+        return (cells[static_cast<std::size_t>(index)] & HiddenBit) != 0;
+    }
+    unsigned& CellWord(int index) { return cells[static_cast<std::size_t>(index)]; }
+    void ForgetSpots() {
+        visibleSpots.Forget();
+        allSpots.Forget();
+    }
+    /// Keeps the cell after a change of place, and gives up the indexes by place.
+    void Settle(int index);
+
+    // Beside a cell's number, where `cells` keeps it.
+    static constexpr unsigned HiddenBit = 1U << 31U;
+    static constexpr unsigned BetweenBit = 1U << 30U; ///< see IsBetween
+
     std::vector<Sprite> sprites;
+    std::vector<unsigned> cells; ///< by index: what a turn asks first, close together
+    IndexSet hidden;
+    SpotIndex visibleSpots;
+    SpotIndex allSpots;
+    std::vector<int> lookedUp; ///< the answer to the last look-up by place
     Chunks changed{1};              // the template is new
     std::vector<std::string> texts; ///< tags that are no heading, by TagNumber from 5 on
 };

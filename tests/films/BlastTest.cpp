@@ -45,7 +45,7 @@ TEST(Blast, OrderOfTheCells) {
     board.BangTick();
     std::string order; // each mine gives the pool its next Bang
     for (const Sprite& bang : board.Pools[Kind::Bang]) {
-        order += std::to_string(CellOf(bang).Col) + std::to_string(CellOf(bang).Row) + " ";
+        order += std::to_string(CellOf(bang).Col()) + std::to_string(CellOf(bang).Row()) + " ";
     }
     EXPECT_EQ(order, "22 23 21 32 12 33 31 13 11 ");
 }

@@ -24,7 +24,7 @@ struct Actor {
     Kind What;
     char How; ///< "!" hidden, "?" hidden but for the grid, "~" hidden from the grid
     std::string Tag;
-    Cell Where{};
+    Cell Where{0, 0};
     int Index = 0;
 };
 
@@ -73,7 +73,7 @@ Board Load(Film& film) {
         sprite.Index = sprite.What == Kind::Bang ? 0 : 1; // Bangs begin with the template
         for (const Actor& other : sprites) sprite.Index += other.What == sprite.What ? 1 : 0;
         sprites.push_back(sprite);
-        text << KindText(sprite.What) << " " << (cell.Row - 1) * 360 << " " << (cell.Col - 1) * 360;
+        text << KindText(sprite.What) << " " << (cell.Row() - 1) * 360 << " " << (cell.Col() - 1) * 360;
         text << (sprite.Tag.empty() ? "" : " ") << sprite.Tag << "\n";
     };
     const std::string& marks = film.Frames[0];
@@ -94,8 +94,8 @@ Board Load(Film& film) {
     };
     for (const Actor& sprite : sprites) {
         if (sprite.What != Kind::Bang) continue; // no map can place it
-        board.SpawnObject(Kind::Bang, static_cast<float>(sprite.Where.Col - 1) * Pitch,
-                          static_cast<float>(sprite.Where.Row - 1) * Pitch, Heading::Down);
+        board.SpawnObject(Kind::Bang, static_cast<float>(sprite.Where.Col() - 1) * Pitch,
+                          static_cast<float>(sprite.Where.Row() - 1) * Pitch, Heading::Down);
     }
     hide('!');
     board.ResetStart(seed);

@@ -8,7 +8,7 @@ void Board::GemTick() {
     const RollSide side = DrawRollSide();
     const Pool& gems = Pools[Kind::Gem1Type];
     for (const int gem : gems.InTurn()) {
-        switch (Area(CellOf(gems[gem], Below))) {
+        switch (Area(gems.CellOf(gem, Below))) {
         case Kind::Empty: MoveSprite(Kind::Gem1Type, gem, Below); break;
         case Kind::You: TakeAway(Kind::Gem1Type, gem); break; // one at rest too
         case Kind::Gem1Type:

@@ -13,21 +13,18 @@ namespace {
 void HitMine(Board& board, int rock, Kind kind) {
     Pool& rocks = board.Pools[Kind::RoundRock];
     Pool& mines = board.Pools[kind];
-    const int count = mines.Count();
-    const float left = rocks[rock].Left;
-    const float top = rocks[rock].Top + Pitch;
-    for (int i = mines.NextAt(0, left, top); i < count; i = mines.NextAt(i + 1, left, top)) {
-        mines.Hide(i);
+    for (const int mine : mines.AllAt(rocks[rock].Left, rocks[rock].Top + Pitch)) {
+        mines.Hide(mine);
         rocks.Hide(rock);
-        board.SpawnObject(Kind::Bang, mines[i].Left, mines[i].Top, Heading::Down);
-        board.Area.Set(CellOf(rocks[rock]), Kind::Empty);
-        board.Area.Set(CellOf(mines[i]), Kind::Bang);
+        board.SpawnObject(Kind::Bang, mines[mine].Left, mines[mine].Top, Heading::Down);
+        board.Area.Set(rocks.CellOf(rock), Kind::Empty);
+        board.Area.Set(mines.CellOf(mine), Kind::Bang);
     }
 }
 
 /// What a rock that has just fallen does to what is now below it.
 void Land(Board& board, int rock) {
-    const Kind below = board.Area(CellOf(board.Pools[Kind::RoundRock][rock], Below));
+    const Kind below = board.Area(board.Pools[Kind::RoundRock].CellOf(rock, Below));
     if (below == Kind::You) board.YouDie();
     if (IsMine(below)) HitMine(board, rock, below);
 }
@@ -38,7 +35,7 @@ void Board::RockTick() {
     const RollSide side = DrawRollSide();
     const Pool& rocks = Pools[Kind::RoundRock];
     for (const int rock : rocks.InTurn()) {
-        switch (Area(CellOf(rocks[rock], Below))) {
+        switch (Area(rocks.CellOf(rock, Below))) {
         case Kind::Empty:
             MoveSprite(Kind::RoundRock, rock, Below);
             Land(*this, rock);

@@ -16,12 +16,10 @@ constexpr std::array<Offset, 9> Block{
 /// Takes away the visible sprites of a kind at a place in twips, and makes a Bang of each mine.
 void BlowUp(Board& board, Kind kind, float left, float top) {
     Pool& pool = board.Pools[kind];
-    const int count = pool.Count();
-    for (int i = pool.NextAt(0, left, top); i < count; i = pool.NextAt(i + 1, left, top)) {
-        if (!pool[i].Visible) continue;
+    for (const int i : pool.VisibleAt(left, top)) {
         board.TakeAway(kind, i);
         if (!IsMine(kind)) continue;
-        board.Area.Set(CellOf(pool[i]), Kind::Bang);
+        board.Area.Set(pool.CellOf(i), Kind::Bang);
         board.SpawnObject(Kind::Bang, pool[i].Left, pool[i].Top, Heading::Down);
     }
 }

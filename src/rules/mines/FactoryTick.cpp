@@ -37,7 +37,7 @@ void Board::FactoryTick() {
         const Sprite& sprite = factories[factory];
         std::int16_t& counter = FactoryCount[static_cast<std::size_t>(factory)];
         const auto product = ReadRecipe(factories.TagText(factory));
-        if (product && Area(CellOf(sprite)) == Kind::Empty && product->Rest < counter) {
+        if (product && Area(factories.CellOf(factory)) == Kind::Empty && product->Rest < counter) {
             counter = 0;
             if (CanBeMade(product->Made)) {
                 SpawnObject(product->Made, sprite.Left, sprite.Top, Heading::Down);
@@ -45,7 +45,7 @@ void Board::FactoryTick() {
         }
         // The rest begins when the cell is free. A product that is a new sprite does not mark the
         // cell, so the factory goes on beside it; tests/films/FactoryTest.cpp pins it.
-        if (Area(CellOf(sprite)) != Kind::Empty) counter = 0;
+        if (Area(factories.CellOf(factory)) != Kind::Empty) counter = 0;
     }
 }
 

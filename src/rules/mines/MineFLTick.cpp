@@ -23,15 +23,15 @@ constexpr std::array<Block, 4> Blocks{{{Heading::Right, Heading::Down, Heading::
 
 /// The step or the turn. Returns whether the player stands ahead of the mine afterwards.
 bool RunBlock(Board& board, int mine, const Block& block) {
-    const Sprite& sprite = board.Pools[Kind::MovingMineFL][mine];
+    const Pool& mines = board.Pools[Kind::MovingMineFL];
     const Offset ahead = Ahead(block.Own);
-    if (board.Area(CellOf(sprite, ahead)) == Kind::Empty) {
+    if (board.Area(mines.CellOf(mine, ahead)) == Kind::Empty) {
         board.MoveSprite(Kind::MovingMineFL, mine, ahead);
     } else {
-        const bool free = board.Area(CellOf(sprite, Ahead(block.Tested))) == Kind::Empty;
+        const bool free = board.Area(mines.CellOf(mine, Ahead(block.Tested))) == Kind::Empty;
         board.Turn(Kind::MovingMineFL, mine, free ? block.Tested : block.Other);
     }
-    return board.Area(CellOf(sprite, ahead)) == Kind::You;
+    return board.Area(mines.CellOf(mine, ahead)) == Kind::You;
 }
 
 } // namespace

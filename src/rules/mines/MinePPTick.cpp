@@ -10,7 +10,7 @@ void Board::MinePPTick() {
         if (const auto heading = mines.HeadingOf(mine)) {
             HunterBlock(*this, Kind::MovingMinePP, mine, *heading, Aims::Always);
         }
-        if (TouchesYou(mines[mine])) return YouDie();
+        if (TouchesYou(Kind::MovingMinePP, mine)) return YouDie();
     }
 }
 

@@ -13,7 +13,7 @@ void Board::MinePTick() {
             if (mines.HeadingOf(mine) != heading) continue;
             HunterBlock(*this, Kind::MovingMineP, mine, heading, Aims::WhenBlocked);
         }
-        if (TouchesYou(mines[mine])) return YouDie();
+        if (TouchesYou(Kind::MovingMineP, mine)) return YouDie();
     }
 }
 

@@ -9,12 +9,11 @@ namespace {
 /// One cell down. If the next cell below is not empty, the mine goes off where it is then.
 void Fall(Board& board, int mine) {
     Pool& mines = board.Pools[Kind::MovingMineT];
-    const Sprite& sprite = mines[mine];
-    const bool lands = board.Area(CellOf(sprite, Below + Below)) != Kind::Empty;
+    const bool lands = board.Area(mines.CellOf(mine, Below + Below)) != Kind::Empty;
     board.MoveSprite(Kind::MovingMineT, mine, Below);
     if (!lands) return;
     mines.Hide(mine);
-    board.SpawnObject(Kind::Bang, sprite.Left, sprite.Top, Heading::Down);
+    board.SpawnObject(Kind::Bang, mines[mine].Left, mines[mine].Top, Heading::Down);
 }
 
 } // namespace
@@ -23,7 +22,7 @@ void Board::MineTTick() {
     const RollSide side = DrawRollSide();
     const Pool& mines = Pools[Kind::MovingMineT];
     for (const int mine : mines.InTurn()) {
-        switch (Area(CellOf(mines[mine], Below))) {
+        switch (Area(mines.CellOf(mine, Below))) {
         case Kind::Empty: Fall(*this, mine); break;
         case Kind::Gem1Type:
         case Kind::RoundRock:

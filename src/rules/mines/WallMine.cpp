@@ -8,9 +8,9 @@ namespace {
 
 /// At most one step and one turn.
 void TakeTurn(Board& board, Kind kind, int mine, Heading heading, Heading hand) {
-    const Sprite& sprite = board.Pools[kind][mine];
+    const Pool& mines = board.Pools[kind];
     const auto isFree = [&](Heading way) {
-        return board.Area(CellOf(sprite, Ahead(way))) == Kind::Empty;
+        return board.Area(mines.CellOf(mine, Ahead(way))) == Kind::Empty;
     };
     if (isFree(heading)) {
         board.MoveSprite(kind, mine, Ahead(heading));
@@ -30,7 +30,7 @@ void WallMineTick(Board& board, Kind kind, Heading (*hand)(Heading)) {
         if (const auto heading = mines.HeadingOf(mine)) {
             TakeTurn(board, kind, mine, *heading, hand(*heading));
         }
-        if (board.TouchesYou(mines[mine])) return board.YouDie();
+        if (board.TouchesYou(kind, mine)) return board.YouDie();
     }
 }
 

@@ -30,8 +30,8 @@ void PushKind(Board& board, Kind kind, Heading way) {
         if (!inColumn || !InRow(kind, sprite, board.YouRow)) continue;
         // The new cell first: rounding can give a sprite between two cells one and the same for
         // both, and then it reads empty.
-        board.Area.Set(CellOf(sprite, step), kind);
-        board.Area.Set(CellOf(sprite), Kind::Empty);
+        board.Area.Set(pool.CellOf(index, step), kind);
+        board.Area.Set(pool.CellOf(index), Kind::Empty);
         pool.Move(index, step);
     }
     // Even when no sprite was there; tests/films/PlayerTest.cpp pins it.
