@@ -12,8 +12,7 @@ void Board::SpawnObject(Kind kind, float left, float top, Heading tag) {
     if (!reused && pool.Full()) return;
 
     const int index = reused ? free : pool.Add();
-    pool.PutTop(index, top);
-    pool.PutLeft(index, left);
+    pool.Put(index, left, top);
     pool.Show(index);
     DrawPicture(kind, index);
     if (IsMine(kind)) pool.SetHeading(index, tag);

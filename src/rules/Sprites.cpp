@@ -26,7 +26,7 @@ void Board::Turn(Kind kind, int index, Heading heading) {
 RollSide Board::DrawRollSide() { return random.Rnd() < 0.5F ? RollSide::Right : RollSide::Left; }
 
 void Board::Roll(Kind kind, int index, RollSide side) {
-    const Offset way = side == RollSide::Right ? ToRight : ToLeft;
+    const Offset way = WayOf(side);
     const Pool& pool = Pools[kind];
     if (Area(pool.CellOf(index, way + Below)) == Kind::Empty &&
         Area(pool.CellOf(index, way)) == Kind::Empty) {

@@ -3,6 +3,8 @@
 // it. Who calls Tick, and how often, is the front end's; what shows in the window is frmDocument's.
 #include "world/Board.h"
 
+#include <bit>
+
 namespace tumbledeep {
 
 namespace {
@@ -35,15 +37,27 @@ constexpr std::array<Due, 13> Clock{{
     {20, Plain<&Board::MinePTick>},
 }};
 
+/// By the value of the counter, the rows of the clock that are due, a bit for each: most ticks have
+/// none, and a map at rest should cost no more than asking that.
+constexpr auto DueRows = [] {
+    std::array<unsigned, LastTick + 1> rows{};
+    for (std::size_t tick = 0; tick < rows.size(); ++tick) {
+        for (std::size_t row = 0; row < Clock.size(); ++row) {
+            const bool due = static_cast<int>(tick) % Clock.at(row).Multiple == 0;
+            rows.at(tick) |= due ? 1U << row : 0U;
+        }
+    }
+    return rows;
+}();
+
 } // namespace
 
 Outcome Board::Tick(HeldKeys held) {
     Result = Outcome::Running;
     Walks.Clear();
     TickCount = NextTick();
-    for (const Due& due : Clock) {
-        if (TickCount % due.Multiple != 0) continue;
-        due.Run(*this, held);
+    for (unsigned due = DueRows.at(static_cast<std::size_t>(TickCount)); due != 0; due &= due - 1) {
+        Clock.at(static_cast<std::size_t>(std::countr_zero(due))).Run(*this, held);
         if (Result != Outcome::Running) return Result;
     }
     MoveReady = true;

@@ -1,5 +1,5 @@
-// The memory of the grid. It grows by whole rows, so two grids of equal cells can be of unequal size;
-// they compare by their cells.
+// The memory of the grid. It grows by whole rows, so two grids of equal cells can be of unequal
+// size; they compare by their cells.
 #include "world/Area.h"
 
 #include <algorithm>

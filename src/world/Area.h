@@ -1,11 +1,12 @@
-// The grid: 301 by 301 cells, columns and rows from 0 to 300, each holding a kind. Only the rows down
-// to the last that has ever held something take memory, so that a small map's grid copies in no
-// time. Where a sprite stands in twips, and which cell that is, is told in Pool.h and Cell.h.
+// The grid: 301 by 301 cells, columns and rows from 0 to 300, each holding a kind. Only the rows
+// down to the last that has ever held something take memory, so that a small map's grid copies in
+// no time. Where a sprite stands in twips, and which cell that is, is told in Pool.h and Cell.h.
 #pragma once
 
 #include "world/Cell.h"
 #include "world/Kind.h"
 
+#include <span>
 #include <vector>
 
 namespace tumbledeep {
@@ -31,6 +32,9 @@ class AreaGrid {
 
     /// Cells in rows from here on have never held anything. It only grows.
     int UsedRows() const { return Cell::Numbered(static_cast<unsigned>(cells.size())).Row(); }
+
+    /// The cells that take memory, by their numbers.
+    std::span<const Kind> Kept() const { return cells; }
 
     /// Whether all cells hold the same, however much of the two grids is kept.
     friend bool operator==(const AreaGrid& a, const AreaGrid& b);

@@ -48,8 +48,7 @@ std::uint64_t Board::HashValue() const {
         for (int col = 0; col < GridSize; ++col) {
             const Kind kind = Area(col, row);
             if (kind == Kind::Empty) continue;
-            hash.Add((row * GridSize + col) * static_cast<int>(KindCount) +
-                     static_cast<int>(kind));
+            hash.Add((row * GridSize + col) * static_cast<int>(KindCount) + static_cast<int>(kind));
         }
     }
     for (const KindRow& row : PoolKinds()) Pools[row.Which].AddTo(hash);

@@ -29,6 +29,8 @@ enum class Outcome : std::uint8_t {
 /// The side to which all of one kind roll in one call of their routine.
 enum class RollSide : std::uint8_t { Right = 1, Left = 2 };
 
+constexpr Offset WayOf(RollSide side) { return side == RollSide::Right ? ToRight : ToLeft; }
+
 /// The pools, one for each kind that has sprites.
 class PoolSet {
   public:
@@ -64,6 +66,9 @@ class WalkList {
     std::size_t count = 0;
 };
 
+/// The highest value of the clock's counter, after which comes 0.
+inline constexpr int LastTick = 300;
+
 /// In ticks: how often the gems are counted anew, and how often the status bar shows their number.
 /// The view that flips by pages looks at the player as often as the gems are counted.
 inline constexpr int RecountPeriod = 10;
@@ -89,7 +94,7 @@ class Board {
     Sprite You{2280, 4560, TagNumber::None, true, Picture::None};
 
     Timer Interval100Timer{10, true}; ///< 10 milliseconds, whatever its name says
-    std::int16_t TickCount = 0;       ///< of the last tick, 0 to 300
+    std::int16_t TickCount = 0;       ///< of the last tick, 0 to LastTick
     float YouCol = 0;                 ///< the player's column, not rounded
     double YouRow = 0;                ///< the player's row, a whole number of any size
     std::int16_t GemTotal = 0;        ///< sprites of gems at set-up, the hidden template included
@@ -133,7 +138,7 @@ class Board {
     /// The value of `TickCount` in the next tick. A cycle has 301 ticks: 300 and 0 follow one
     /// another and are multiples of every period, so all routines run twice in a row there;
     /// tests/films/ClockTest.cpp pins it.
-    std::int16_t NextTick() const { return TickCount < 300 ? To16(TickCount + 1) : To16(0); }
+    std::int16_t NextTick() const { return TickCount < LastTick ? To16(TickCount + 1) : To16(0); }
     /// Carries out a key: "w", "a", "s" or "d" is a step, "p" stops and starts the clock. Any key
     /// of a ready player, one without meaning too, writes the visible gems into `Area` again.
     void MoveYou(std::string_view key);

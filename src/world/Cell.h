@@ -34,8 +34,8 @@ inline constexpr Offset ToLeft{-1, 0};
 inline constexpr Offset Above{0, -1};
 inline constexpr Offset Below{0, 1};
 
-/// A column and a row, on the grid or beside it, as one small number, to which a step in a direction
-/// adds the same amount everywhere.
+/// A column and a row, on the grid or beside it, as one small number, to which a step in a
+/// direction adds the same amount everywhere.
 class Cell {
   public:
     /// So far beside the grid, cells are told apart: as far as any rule looks from a sprite.
@@ -69,8 +69,9 @@ class Cell {
     unsigned number;
 };
 
-/// The nearest whole number as a column or row, a tie going to the even one. Numbers farther outside
-/// the grid than any rule looks all give one that is outside too, since an int might not hold them.
+/// The nearest whole number as a column or row, a tie going to the even one. Numbers farther
+/// outside the grid than any rule looks all give one that is outside too, since an int might not
+/// hold them.
 constexpr int GridIndex(float value) {
     constexpr float farthest = 1000.0F;
     const float whole = RoundToEven(value);

@@ -75,12 +75,8 @@ void Pool::SetTag(int index, std::string_view text) {
     At(index).Tag = static_cast<TagNumber>(FirstText + (found - texts.begin()));
 }
 
-void Pool::PutLeft(int index, float left) {
+void Pool::Put(int index, float left, float top) {
     At(index).Left = left;
-    Settle(index);
-}
-
-void Pool::PutTop(int index, float top) {
     At(index).Top = top;
     Settle(index);
 }

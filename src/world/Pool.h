@@ -1,8 +1,8 @@
 // A pool: the growable row of sprites of one kind, from a hidden template at index 0. Rules read
 // the sprites freely and change one only by the functions below, so that the pool can keep their
 // cells, the hidden ones and an index by place beside them, and no rule needs to look through it.
-// Pools know nothing of what the grid holds: a rule that moves a sprite writes the cells too, mostly
-// by way of Board::MoveSprite.
+// Pools know nothing of what the grid holds: a rule that moves a sprite writes the cells too,
+// mostly by way of Board::MoveSprite.
 #pragma once
 
 #include "world/Heading.h"
@@ -43,7 +43,8 @@ class Pool {
     /// mostly without reckoning.
     Cell CellOf(int index, Offset offset = Here) const {
         const unsigned cell = cells[static_cast<std::size_t>(index)] & ~HiddenBit;
-        if (cell < BetweenBit) [[likely]] return Cell::Numbered(cell) + offset;
+        if (cell < BetweenBit) [[likely]]
+            return Cell::Numbered(cell) + offset;
         return tumbledeep::CellOf((*this)[index], offset);
     }
     /// The heading in a sprite's tag; none if the tag is anything else.
@@ -55,10 +56,16 @@ class Pool {
     /// The pool must not be full.
     int Add();
 
+    /// The numbers of all sprites' cells by index, for loops that cannot ask for each. Numbers that
+    /// no cell has stand for sprites that are hidden or lie between cells.
+    std::span<const unsigned> CellNumbers() const { return cells; }
+    static constexpr bool IsHiddenCell(unsigned number) { return (number & HiddenBit) != 0; }
+
     // What changes a sprite. Positions are in twips.
 
-    void PutLeft(int index, float left);
-    void PutTop(int index, float top);
+    void Put(int index, float left, float top);
+    void PutLeft(int index, float left) { Put(index, left, (*this)[index].Top); }
+    void PutTop(int index, float top) { Put(index, (*this)[index].Left, top); }
     void Move(int index, Offset offset) {
         Sprite& sprite = At(index);
         unsigned& cell = CellWord(index);
@@ -127,7 +134,8 @@ class Pool {
 
           private:
             void PassHidden() {
-                while (index < last && of->IsHidden(index)) ++index;
+                while (index < last && IsHiddenCell(of->cells[static_cast<std::size_t>(index)]))
+                    ++index;
             }
             const Pool* of;
             int index;
@@ -154,9 +162,6 @@ class Pool {
     }
     std::string_view TextOf(TagNumber tag) const;
 
-    bool IsHidden(int index) const {
-        return (cells[static_cast<std::size_t>(index)] & HiddenBit) != 0;
-    }
     unsigned& CellWord(int index) { return cells[static_cast<std::size_t>(index)]; }
     void ForgetSpots() {
         visibleSpots.Forget();
@@ -174,7 +179,7 @@ class Pool {
     IndexSet hidden;
     SpotIndex visibleSpots;
     SpotIndex allSpots;
-    std::vector<int> lookedUp; ///< the answer to the last look-up by place
+    std::vector<int> lookedUp;      ///< the answer to the last look-up by place
     Chunks changed{1};              // the template is new
     std::vector<std::string> texts; ///< tags that are no heading, by TagNumber from 5 on
 };

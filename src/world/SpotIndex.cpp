@@ -1,5 +1,5 @@
-// A hash table of chains. Places that a whole number of twips tells apart lie in chains of their own,
-// as nearly all do; the others share one with all those up to the next whole twip.
+// A hash table of chains. Places that a whole number of twips tells apart lie in chains of their
+// own, as nearly all do; the others share one with all those up to the next whole twip.
 #include "world/SpotIndex.h"
 
 #include <algorithm>

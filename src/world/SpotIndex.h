@@ -1,6 +1,7 @@
-// Finds the sprites at a place in twips without looking through the pool. It is made when it is first
-// asked for and thrown away when sprites move: many ticks need none, and what moves together is
-// cheaper to put in anew than to follow one by one. The pool it belongs to says when it is stale.
+// Finds the sprites at a place in twips without looking through the pool. It is made when it is
+// first asked for and thrown away when sprites move: many ticks need none, and what moves together
+// is cheaper to put in anew than to follow one by one. The pool it belongs to says when it is
+// stale.
 #pragma once
 
 #include "world/Sprite.h"

@@ -1,5 +1,5 @@
-// One object of a map as a pool keeps it: where it stands, its tag, whether it is in play, its look.
-// The pool is Pool.h's.
+// One object of a map as a pool keeps it: where it stands, its tag, whether it is in play, its
+// look. The pool is Pool.h's.
 #pragma once
 
 #include "world/Picture.h"

@@ -73,7 +73,8 @@ Board Load(Film& film) {
         sprite.Index = sprite.What == Kind::Bang ? 0 : 1; // Bangs begin with the template
         for (const Actor& other : sprites) sprite.Index += other.What == sprite.What ? 1 : 0;
         sprites.push_back(sprite);
-        text << KindText(sprite.What) << " " << (cell.Row() - 1) * 360 << " " << (cell.Col() - 1) * 360;
+        text << KindText(sprite.What) << " " << (cell.Row() - 1) * 360 << " "
+             << (cell.Col() - 1) * 360;
         text << (sprite.Tag.empty() ? "" : " ") << sprite.Tag << "\n";
     };
     const std::string& marks = film.Frames[0];

@@ -1,13 +1,13 @@
 // One turn for each gem: it falls a cell, is taken by the player below it, rolls to a side, or
 // rests. Gems hurt nobody. Their number is CheckGameEnd's to count.
-#include "world/Board.h"
+#include "rules/gravity/Restless.h"
 
 namespace tumbledeep {
 
 void Board::GemTick() {
     const RollSide side = DrawRollSide();
     const Pool& gems = Pools[Kind::Gem1Type];
-    for (const int gem : gems.InTurn()) {
+    for (const int gem : Restless(*this, Kind::Gem1Type, side)) {
         switch (Area(gems.CellOf(gem, Below))) {
         case Kind::Empty: MoveSprite(Kind::Gem1Type, gem, Below); break;
         case Kind::You: TakeAway(Kind::Gem1Type, gem); break; // one at rest too

@@ -1,7 +1,7 @@
 // One turn for each rock: it falls a cell, rolls to a side, or rests. No state tells a falling rock
 // from a resting one: a rock falls when the cell below it is empty, and only in the turn in which
 // it has fallen can it kill or hit a mine. Pushing rocks is player/Push.cpp's.
-#include "world/Board.h"
+#include "rules/gravity/Restless.h"
 
 namespace tumbledeep {
 
@@ -34,7 +34,7 @@ void Land(Board& board, int rock) {
 void Board::RockTick() {
     const RollSide side = DrawRollSide();
     const Pool& rocks = Pools[Kind::RoundRock];
-    for (const int rock : rocks.InTurn()) {
+    for (const int rock : Restless(*this, Kind::RoundRock, side)) {
         switch (Area(rocks.CellOf(rock, Below))) {
         case Kind::Empty:
             MoveSprite(Kind::RoundRock, rock, Below);

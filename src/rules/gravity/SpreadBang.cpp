@@ -27,15 +27,15 @@ void BlowUp(Board& board, Kind kind, float left, float top) {
 } // namespace
 
 void SpreadBang(Board& board, int bang) {
-    // A copy: the pool of Bangs may grow while this one spreads.
-    const Sprite centre = board.Pools[Kind::Bang][bang];
+    const Pool& bangs = board.Pools[Kind::Bang];
     for (const Offset offset : Block) {
         // The grid alone tells what is there: a sprite under another kind's mark is spared.
-        const Kind kind = board.Area(CellOf(centre, offset));
+        const Kind kind = board.Area(bangs.CellOf(bang, offset));
         if (kind == Kind::You) return board.YouDie();
         if (!IsMine(kind) && kind != Kind::Dirt && kind != Kind::RoundRock) continue;
-        BlowUp(board, kind, centre.Left + static_cast<float>(offset.Col) * Pitch,
-               centre.Top + static_cast<float>(offset.Row) * Pitch);
+        // No reference: the pool of Bangs may grow while this one spreads.
+        BlowUp(board, kind, bangs[bang].Left + static_cast<float>(offset.Col) * Pitch,
+               bangs[bang].Top + static_cast<float>(offset.Row) * Pitch);
     }
 }
 

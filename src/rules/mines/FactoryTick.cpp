@@ -7,22 +7,32 @@ namespace tumbledeep {
 namespace {
 
 /// What a factory makes, and for how many calls it rests in between.
-struct Product {
-    Kind Made;
+struct Recipe {
     int Rest;
+    std::string_view Made;
 };
 
 /// A recipe such as "5:gem1type": a digit for the rest, any one character, the kind. None for a
-/// text that begins otherwise; an unknown kind gives Kind::Empty.
-std::optional<Product> ReadRecipe(std::string_view recipe) {
+/// text that begins otherwise.
+std::optional<Recipe> ReadRecipe(std::string_view text) {
     constexpr std::size_t kindStart = 2;
-    if (recipe.size() < kindStart || recipe[0] < '0' || recipe[0] > '9') return std::nullopt;
-    // A kind that nobody knows makes nothing, but the factory rests as if it had.
-    return Product{KindNamed(recipe.substr(kindStart)).value_or(Kind::Empty), recipe[0] - '0'};
+    if (text.size() < kindStart || text[0] < '0' || text[0] > '9') return std::nullopt;
+    return Recipe{text[0] - '0', text.substr(kindStart)};
 }
 
-bool CanBeMade(Kind kind) {
-    return kind != Kind::Empty && kind != Kind::You && kind != Kind::Factory;
+bool CanBeMade(Kind kind) { return kind != Kind::You && kind != Kind::Factory; }
+
+/// A turn with the factory's cell free.
+void Work(Board& board, int factory, std::int16_t& counter) {
+    const Pool& factories = board.Pools[Kind::Factory];
+    const auto recipe = ReadRecipe(factories.TagText(factory));
+    if (!recipe || recipe->Rest >= counter) return;
+    // A kind that nobody knows makes nothing, but the factory rests as if it had.
+    counter = 0;
+    const auto made = KindNamed(recipe->Made);
+    if (!made || !CanBeMade(*made)) return;
+    const Sprite& sprite = factories[factory];
+    board.SpawnObject(*made, sprite.Left, sprite.Top, Heading::Down);
 }
 
 } // namespace
@@ -34,15 +44,8 @@ void Board::FactoryTick() {
     // counters stop at 32767.
     for (std::int16_t& counter : FactoryCount) CountUp(counter);
     for (const int factory : factories.InTurn()) {
-        const Sprite& sprite = factories[factory];
         std::int16_t& counter = FactoryCount[static_cast<std::size_t>(factory)];
-        const auto product = ReadRecipe(factories.TagText(factory));
-        if (product && Area(factories.CellOf(factory)) == Kind::Empty && product->Rest < counter) {
-            counter = 0;
-            if (CanBeMade(product->Made)) {
-                SpawnObject(product->Made, sprite.Left, sprite.Top, Heading::Down);
-            }
-        }
+        if (Area(factories.CellOf(factory)) == Kind::Empty) Work(*this, factory, counter);
         // The rest begins when the cell is free. A product that is a new sprite does not mark the
         // cell, so the factory goes on beside it; tests/films/FactoryTest.cpp pins it.
         if (Area(factories.CellOf(factory)) != Kind::Empty) counter = 0;

@@ -1,6 +1,6 @@
 // One turn for each T mine, the falling bomb: it falls and rolls like a rock, and goes off in the
 // last empty cell of its fall. It kills by its Bang alone; pushing it is player/Push.cpp's.
-#include "world/Board.h"
+#include "rules/gravity/Restless.h"
 
 namespace tumbledeep {
 
@@ -21,7 +21,7 @@ void Fall(Board& board, int mine) {
 void Board::MineTTick() {
     const RollSide side = DrawRollSide();
     const Pool& mines = Pools[Kind::MovingMineT];
-    for (const int mine : mines.InTurn()) {
+    for (const int mine : Restless(*this, Kind::MovingMineT, side)) {
         switch (Area(mines.CellOf(mine, Below))) {
         case Kind::Empty: Fall(*this, mine); break;
         case Kind::Gem1Type:
