@@ -7,7 +7,24 @@
 
 namespace tumbledeep {
 
-void Play(const PlayOptions& options, Script script, std::ostream& lines) {
+namespace {
+
+/// The rest of a step behind the script's events. A tick that ends the process counts too.
+void Period(frmMain& game, std::int64_t step, Timing* timing) {
+    if (timing == nullptr || !game.ActiveChild.Interval100Timer.Enabled) return game.TimerPeriod();
+    timing->TickBegins();
+    try {
+        game.TimerPeriod();
+    } catch (const ProgramEnd&) {
+        timing->TickEnds(step);
+        throw;
+    }
+    timing->TickEnds(step);
+}
+
+} // namespace
+
+void Play(const PlayOptions& options, Script script, std::ostream& lines, Timing* timing) {
     ScriptedPlatform platform(options.Run, script, lines);
     frmMain game(platform);
     game.Take(
@@ -17,6 +34,7 @@ void Play(const PlayOptions& options, Script script, std::ostream& lines) {
     std::int64_t step = 0;
     try {
         game.MDIForm_Activate();
+        if (timing != nullptr) timing->LoadEnds();
         if (!options.Quiet) trace.Print(game, step);
         while (step < options.Steps) {
             ++step;
@@ -25,7 +43,7 @@ void Play(const PlayOptions& options, Script script, std::ostream& lines) {
                 script.Events.pop_front();
                 game.Take(event.Act);
             }
-            game.TimerPeriod();
+            Period(game, step, timing);
             if (!options.Quiet) trace.Print(game, step);
         }
     } catch (const ProgramEnd&) {

@@ -5,6 +5,7 @@
 
 #include "formats/Script.h"
 #include "headless/ScriptedPlatform.h"
+#include "headless/Timing.h"
 
 #include <ostream>
 
@@ -19,7 +20,8 @@ struct PlayOptions {
 };
 
 /// Plays from the start of the process to its end or the last step, and writes the trace. Throws
-/// ScriptFault when an answer does not fit its dialog; what was written stays.
-void Play(const PlayOptions& options, Script script, std::ostream& lines);
+/// ScriptFault when an answer does not fit its dialog; what was written stays. `timing`, made just
+/// before the call, takes the times if there is one.
+void Play(const PlayOptions& options, Script script, std::ostream& lines, Timing* timing = nullptr);
 
 } // namespace tumbledeep

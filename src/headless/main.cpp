@@ -32,11 +32,12 @@ struct Call {
     PlayOptions Options;
     std::string Directory = ".";
     std::optional<std::string> ScriptFile;
+    bool Timed = false;
 };
 
 constexpr std::string_view Usage =
     "usage: tumbledeep-trace [--dir DIR] [--seed N] [--script FILE] [--steps N] [--parent WxH]\n"
-    "                        [--quiet] [ARGUMENT]\n"
+    "                        [--quiet] [--timing] [ARGUMENT]\n"
     "       tumbledeep-trace --help | --version\n"
     "\n"
     "  --dir DIR      the program's directory: maps, lists and Tumbledeep.ini (default: .)\n"
@@ -45,6 +46,7 @@ constexpr std::string_view Usage =
     "  --steps N      timer periods to play after the start-up (default: 1000)\n"
     "  --parent WxH   outer size of the parent window in twips (default: 15360x11520)\n"
     "  --quiet        print no var, cell, sprite and view lines\n"
+    "  --timing       tell at the end, on standard error, what load and ticks took\n"
     "  ARGUMENT       the text of the command line, passed on as it stands\n";
 
 std::int64_t WholeUpTo(std::string_view option, std::string_view text, std::int64_t limit) {
@@ -82,6 +84,8 @@ Call ReadCall(std::span<char* const> words) {
         const std::string_view word = words[i];
         if (word == "--quiet") {
             call.Options.Quiet = true;
+        } else if (word == "--timing") {
+            call.Timed = true;
         } else if (std::find(WithValue.begin(), WithValue.end(), word) != WithValue.end()) {
             if (i + 1 == words.size()) throw CallFault(std::string(word) + " needs a value");
             SetOption(call, word, words[++i]);
@@ -131,8 +135,11 @@ int main(int argc, char** argv) {
             throw CallFault(call.Directory + ": there is no such directory");
         }
         call.Options.Run.Directory = ProgramPath(call.Directory);
-        Play(call.Options, ScriptOf(call), std::cout);
+        Script script = ScriptOf(call);
+        Timing timing;
+        Play(call.Options, std::move(script), std::cout, call.Timed ? &timing : nullptr);
         std::cout.flush();
+        if (call.Timed) std::cerr << timing.Line(call.Options.Steps) << '\n';
         return std::cout ? 0 : 1;
     } catch (const std::runtime_error& fault) {
         std::cout.flush();

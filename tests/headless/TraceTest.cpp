@@ -41,6 +41,7 @@ TEST(Trace, CallsEndWithTheirStatus) {
     using Case = std::tuple<const char*, int, const char*>;
     for (const auto& [words, status, says] :
          {Case{"--steps 3 --quiet", 0, "\"2\"\nstop 3 tick 3\n"},
+          Case{"--steps 3 --timing m.TBM", 0, " over 3 of 3\n"},
           Case{"--steps 2 --script - < hands.txt", 0, "var YouRow 2\n"},
           Case{"--seed 4294967295 --parent 900x900 m.TBM", 0, "view 180 180 735 735\n"},
           Case{"--version", 0, "tumbledeep-trace 1."},
