@@ -8,47 +8,45 @@
 
 namespace tumbledeep {
 
+namespace {
+
+constexpr bool EndsLine(char c) { return c == '\r' || c == '\n'; }
+
+} // namespace
+
 FieldInput::FieldInput(std::string bytes) : text(std::move(bytes)) {
-    if (text.starts_with(ByteOrderMark)) position = lineStart = counted = ByteOrderMark.size();
+    if (text.starts_with(ByteOrderMark)) position = lineStart = ByteOrderMark.size();
 }
 
 Record FieldInput::Next() {
-    position = std::min(text.find_first_not_of(' ', position), text.size());
-    CountLines();
+    while (!AtEnd() && text[position] == ' ') ++position;
     Record record{"", line, static_cast<int>(position - lineStart) + 1};
     if (!AtEnd() && text[position] == '"') {
         ++position;
         ++record.Column;
-        record.Text = Until("\"");
-        Until(",\r\n");
+        const std::size_t start = position;
+        while (!AtEnd() && text[position] != '"') PassCharacter();
+        record.Text.assign(text, start, position - start);
+        ToDelimiter();
     } else {
-        record.Text = Until(",\r\n");
+        const std::size_t start = position;
+        ToDelimiter();
+        record.Text.assign(text, start, position - start);
     }
-    PassDelimiter();
+    if (!AtEnd()) PassCharacter();
     return record;
 }
 
-std::string_view FieldInput::Until(std::string_view stops) {
-    const std::size_t start = position;
-    position = std::min(text.find_first_of(stops, position), text.size());
-    return std::string_view(text).substr(start, position - start);
+void FieldInput::ToDelimiter() {
+    while (!AtEnd() && text[position] != ',' && !EndsLine(text[position])) ++position;
 }
 
-void FieldInput::PassDelimiter() {
-    if (AtEnd()) return;
-    const bool carriageReturn = text[position] == '\r';
-    ++position;
-    if (carriageReturn && !AtEnd() && text[position] == '\n') ++position;
-}
-
-void FieldInput::CountLines() {
-    for (; counted < position; ++counted) {
-        const bool pair =
-            text[counted] == '\r' && counted + 1 < text.size() && text[counted + 1] == '\n';
-        if (pair || (text[counted] != '\r' && text[counted] != '\n')) continue;
-        ++line;
-        lineStart = counted + 1;
-    }
+void FieldInput::PassCharacter() {
+    const char passed = text[position++];
+    if (!EndsLine(passed)) return;
+    if (passed == '\r' && !AtEnd() && text[position] == '\n') ++position;
+    ++line;
+    lineStart = position;
 }
 
 } // namespace tumbledeep

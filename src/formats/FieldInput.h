@@ -30,17 +30,14 @@ class FieldInput {
     Record Next();
 
   private:
-    /// The text from here up to one of these characters or the end; here is behind it then.
-    std::string_view Until(std::string_view stops);
-    /// Steps over the comma or line end that stands here.
-    void PassDelimiter();
-    /// Counts the line ends up to here.
-    void CountLines();
+    /// Goes on to the next comma or line end, or to the end.
+    void ToDelimiter();
+    /// Steps over the character that stands here, or over a whole line end, and counts that.
+    void PassCharacter();
 
     std::string text;
     std::size_t position = 0;  ///< "here": the first byte that is not read yet
-    std::size_t counted = 0;   ///< up to where line ends are counted
-    std::size_t lineStart = 0; ///< where the line at `counted` begins
+    std::size_t lineStart = 0; ///< where the line begins in which that is
     int line = 1;              ///< the number of that line
 };
 

@@ -27,8 +27,7 @@ void PutOnBoard(Board& board, const MapLine& line) {
     Pool& pool = board.Pools[line.Which];
     if (pool.Full()) throw Failure{Failure::Overflow};
     const int index = pool.Add();
-    if (line.Top) pool.PutTop(index, *line.Top);
-    if (line.Left) pool.PutLeft(index, *line.Left);
+    pool.Put(index, line.Left.value_or(pool[index].Left), line.Top.value_or(pool[index].Top));
     ThrowFault(line);
     board.DrawPicture(line.Which, index);
     pool.Show(index);

@@ -64,8 +64,6 @@ class Pool {
     // What changes a sprite. Positions are in twips.
 
     void Put(int index, float left, float top);
-    void PutLeft(int index, float left) { Put(index, left, (*this)[index].Top); }
-    void PutTop(int index, float top) { Put(index, (*this)[index].Left, top); }
     void Move(int index, Offset offset) {
         Sprite& sprite = At(index);
         unsigned& cell = CellWord(index);

@@ -65,8 +65,8 @@ TEST(Board, ComparesByWhatItHoldsAndNotByItsPast) {
     other.Pools[Kind::Factory].SetTag(0, "8:bang");
     EXPECT_FALSE(one == other);
     other = one;
-    other.Pools[Kind::Dirt].PutLeft(0, -0.0F);
-    one.Pools[Kind::Dirt].PutLeft(0, 0.0F);
+    other.Pools[Kind::Dirt].Put(0, -0.0F, 0);
+    one.Pools[Kind::Dirt].Put(0, 0.0F, 0);
     EXPECT_FALSE(one == other) << "minus zero is printed as another place";
     EXPECT_NE(one.HashValue(), other.HashValue());
 }
