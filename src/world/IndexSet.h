@@ -19,6 +19,7 @@ class IndexSet {
 
     /// The highest member, -1 when there is none.
     int Last() const {
+        if (count == 0) return -1;
         for (std::size_t i = heads.size(); i-- > 0;) {
             if (heads.at(i) == 0) continue;
             const std::size_t word = i * 64 + Highest(heads.at(i));

@@ -39,7 +39,7 @@ int Pool::Add() {
     const int index = Count() - 1;
     hidden.Insert(index);
     allSpots.Forget();
-    changed.set(static_cast<std::size_t>(index / ChunkSize));
+    NoteChange(index);
     return index;
 }
 
@@ -79,6 +79,10 @@ void Pool::Put(int index, float left, float top) {
     At(index).Left = left;
     At(index).Top = top;
     Settle(index);
+}
+
+Cell Pool::ReckonedCell(int index, Offset offset) const {
+    return tumbledeep::CellOf((*this)[index], offset);
 }
 
 void Pool::Settle(int index) {

@@ -45,7 +45,7 @@ class Pool {
         const unsigned cell = cells[static_cast<std::size_t>(index)] & ~HiddenBit;
         if (cell < BetweenBit) [[likely]]
             return Cell::Numbered(cell) + offset;
-        return tumbledeep::CellOf((*this)[index], offset);
+        return ReckonedCell(index, offset);
     }
     /// The heading in a sprite's tag; none if the tag is anything else.
     std::optional<Heading> HeadingOf(int index) const;
@@ -155,11 +155,14 @@ class Pool {
   private:
     /// The sprite to be changed.
     Sprite& At(int index) {
-        changed.set(static_cast<std::size_t>(index / ChunkSize));
+        NoteChange(index);
         return sprites[static_cast<std::size_t>(index)];
     }
     std::string_view TextOf(TagNumber tag) const;
 
+    void NoteChange(int index) { changed[static_cast<std::size_t>(index) / ChunkSize] = true; }
+    /// The cell by the sprite's place, however it lies.
+    Cell ReckonedCell(int index, Offset offset) const;
     unsigned& CellWord(int index) { return cells[static_cast<std::size_t>(index)]; }
     void ForgetSpots() {
         visibleSpots.Forget();

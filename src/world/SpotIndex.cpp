@@ -3,8 +3,8 @@
 #include "world/SpotIndex.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
-#include <cmath>
 
 namespace tumbledeep {
 
@@ -15,21 +15,27 @@ bool IsAt(const Sprite& sprite, float left, float top) {
     return sprite.Top == top && sprite.Left - 1.0F < left && left < sprite.Left + 1.0F;
 }
 
-bool IsWhole(float left) { return std::floor(left) == left; }
+/// The whole twip at or before a place. All places too far out for an int to hold share one.
+int TwipBefore(float left) {
+    constexpr float farthest = 0x1p30F;
+    if (left < -farthest || left > farthest) return static_cast<int>(farthest);
+    const int towardsZero = static_cast<int>(left);
+    return static_cast<float>(towardsZero) > left ? towardsZero - 1 : towardsZero;
+}
 
 /// A number by its bits, both zeros alike.
 std::uint64_t Bits(float number) { return std::bit_cast<std::uint32_t>(number + 0.0F); }
 
 } // namespace
 
-SpotIndex::Link* SpotIndex::Chain(float left, float top, bool whole) {
-    std::uint64_t hash = (Bits(std::floor(left)) << 32U | Bits(top)) + (whole ? 0U : 1U);
-    hash = (hash ^ hash >> 29U) * 0x9E3779B97F4A7C15U;
+SpotIndex::Link* SpotIndex::Chain(int twip, bool between, float top) {
+    const std::uint64_t key = static_cast<std::uint64_t>(twip) << 33U | Bits(top) << 1U;
+    const std::uint64_t hash = (key + (between ? 1U : 0U)) * 0x9E3779B97F4A7C15U;
     return &chains[static_cast<std::size_t>(hash >> shift)];
 }
 
 void SpotIndex::Make(std::span<const Sprite> sprites, bool hiddenToo) {
-    const unsigned bits = std::max(1U, static_cast<unsigned>(std::bit_width(sprites.size())));
+    const auto bits = static_cast<unsigned>(std::bit_width(sprites.size() / 2 | 1U));
     shift = static_cast<int>(64U - bits);
     chains.assign(std::size_t{1} << bits, None);
     next.resize(sprites.size());
@@ -38,9 +44,10 @@ void SpotIndex::Make(std::span<const Sprite> sprites, bool hiddenToo) {
     for (std::size_t i = sprites.size(); i-- > 0;) {
         const Sprite& sprite = sprites[i];
         if (!sprite.Visible && !hiddenToo) continue;
-        const bool whole = IsWhole(sprite.Left);
-        anyBetween |= !whole;
-        Link* const first = Chain(sprite.Left, sprite.Top, whole);
+        const int twip = TwipBefore(sprite.Left);
+        const bool between = static_cast<float>(twip) != sprite.Left;
+        anyBetween |= between;
+        Link* const first = Chain(twip, between, sprite.Top);
         next[i] = *first;
         *first = static_cast<Link>(i);
     }
@@ -49,33 +56,29 @@ void SpotIndex::Make(std::span<const Sprite> sprites, bool hiddenToo) {
 
 void SpotIndex::Find(std::span<const Sprite> sprites, bool hiddenToo, float left, float top,
                      std::vector<int>& found) {
-    const float low = std::floor(left);
-    const float high = std::ceil(left);
-    const auto follow = [&](float at, bool whole) {
-        Follow(Chain(at, top, whole), sprites, hiddenToo, left, top, found);
-    };
-    follow(low, true);
-    if (high == low && !anyBetween) return;
-    if (high != low) follow(high, true);
+    const int twip = TwipBefore(left);
+    const bool between = static_cast<float>(twip) != left;
+    std::array<Link*, 5> looked{Chain(twip, false, top)};
+    std::size_t count = 1;
+    if (between) looked.at(count++) = Chain(twip + 1, false, top);
     if (anyBetween) {
-        for (const float twip : {low - 1.0F, low, low + 1.0F}) follow(twip, false);
+        for (const int at : {twip - 1, twip, twip + 1}) looked.at(count++) = Chain(at, true, top);
     }
-    // Some of these can be one chain.
+    for (std::size_t i = 0; i < count; ++i) {
+        for (Link* link = looked[i]; *link != None;) {
+            const Sprite& sprite = sprites[*link];
+            if (!sprite.Visible && !hiddenToo) {
+                *link = next[*link];
+                continue;
+            }
+            if (IsAt(sprite, left, top)) found.push_back(*link);
+            link = &next[*link];
+        }
+    }
+    if (count == 1) return;
+    // Some of the chains can be one and the same.
     std::sort(found.begin(), found.end());
     found.erase(std::unique(found.begin(), found.end()), found.end());
-}
-
-void SpotIndex::Follow(Link* link, std::span<const Sprite> sprites, bool hiddenToo, float left,
-                       float top, std::vector<int>& found) {
-    while (*link != None) {
-        const std::size_t index = *link;
-        if (!sprites[index].Visible && !hiddenToo) {
-            *link = next[index];
-            continue;
-        }
-        if (IsAt(sprites[index], left, top)) found.push_back(static_cast<int>(index));
-        link = &next[index];
-    }
 }
 
 } // namespace tumbledeep

@@ -41,9 +41,9 @@ class SpotIndex {
     using Link = std::uint16_t; ///< an index of the pool
     static constexpr Link None = 0xFFFF;
 
-    Link* Chain(float left, float top, bool whole);
-    void Follow(Link* link, std::span<const Sprite> sprites, bool hiddenToo, float left, float top,
-                std::vector<int>& found);
+    /// Where the chain begins for sprites at a whole twip from the left, or between it and the
+    /// next.
+    Link* Chain(int twip, bool between, float top);
 
     bool made = false;
     bool anyBetween = false;  ///< a sprite stands at no whole twip from the left
