@@ -10,21 +10,25 @@
 
 namespace tumbledeep {
 
+std::string LineOf(const Object& object, float left, float top) {
+    if (object.Keyword.empty()) return "";
+    return object.Keyword + ' ' + std::to_string(top) + ' ' + std::to_string(left) +
+           (object.Tag.empty() ? "" : ' ' + object.Tag) + '\n';
+}
+
 namespace {
 
 std::string Line(const Object& object, int col, int row) {
-    if (object.Keyword.empty()) return "";
-    return object.Keyword + ' ' + std::to_string(row * 360) + ' ' + std::to_string(col * 360) +
-           (object.Tag.empty() ? "" : ' ' + object.Tag) + '\n';
+    return LineOf(object, static_cast<float>(col) * Pitch, static_cast<float>(row) * Pitch);
 }
 
 } // namespace
 
-std::string MapOf(int size, const std::function<Object(int col, int row)>& inside) {
+std::string MapOf(int width, int height, const std::function<Object(int col, int row)>& inside) {
     std::string map;
-    for (int row = 0; row < size; ++row) {
-        for (int col = 0; col < size; ++col) {
-            const bool wall = row == 0 || col == 0 || row == size - 1 || col == size - 1;
+    for (int row = 0; row < height; ++row) {
+        for (int col = 0; col < width; ++col) {
+            const bool wall = row == 0 || col == 0 || row == height - 1 || col == width - 1;
             map += Line(wall ? Object{"harddirt", ""} : inside(col, row), col, row);
         }
     }

@@ -2,6 +2,7 @@
 // cycles of the clock are measured, since most ticks run only a few routines. Painting is not in
 // it.
 #include "Boards.h"
+#include "Counters.h"
 
 #include "formats/LoadMap.h"
 
@@ -14,21 +15,13 @@ namespace {
 constexpr int Cycle = 301;      // ticks
 constexpr int LargestMap = 301; // cells, both ways
 
-/// A gem out of reach keeps a map from being won, and a player off the grid from being lost.
-const std::string Endless = "gem1type 0 0\nyou 1e9 1e9\n";
-
-void CountTicks(benchmark::State& state, double ticks) {
-    state.counters["per_tick"] =
-        benchmark::Counter(ticks, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
-}
-
 /// Plays whole cycles of one board.
 void PlayCycles(benchmark::State& state, const std::string& map) {
     Board board = LoadMap(map + Endless, 1);
     for ([[maybe_unused]] auto cycle : state) {
         for (int tick = 0; tick < Cycle; ++tick) board.Tick({});
     }
-    CountTicks(state, static_cast<double>(state.iterations()) * Cycle);
+    CountEach(state, "per_tick", static_cast<double>(state.iterations()) * Cycle);
 }
 
 void LargestShippedMap(benchmark::State& state) {
@@ -43,17 +36,19 @@ BENCHMARK(LargestShippedMap)->Unit(benchmark::kMicrosecond);
 
 void RestingRocks(benchmark::State& state) {
     int rocks = 0;
-    const std::string map = MapOf(LargestMap, [&rocks](int, int row) {
+    const std::string map = MapOf(LargestMap, LargestMap, [&rocks](int, int row) {
         const bool full = row < LargestMap / 2 || rocks >= Pool::Limit - 1;
         return full ? Object{} : (++rocks, Object{"roundrock", ""});
     });
     PlayCycles(state, map);
+    constexpr int rockTicks = Cycle / 6 + 1; // of a cycle; 0 is a multiple too
+    CountEach(state, "per_rock", static_cast<double>(state.iterations()) * rockTicks * rocks);
 }
 BENCHMARK(RestingRocks)->Unit(benchmark::kMicrosecond);
 
 void WalkingMines(benchmark::State& state) {
     int mines = 0;
-    const std::string map = MapOf(LargestMap, [&mines](int col, int row) {
+    const std::string map = MapOf(LargestMap, LargestMap, [&mines](int col, int row) {
         const bool here = col % 3 == 1 && row % 3 == 1 && mines < 10'000;
         return here ? (++mines, Object{"movingmineL", "R"}) : Object{};
     });
@@ -64,7 +59,7 @@ BENCHMARK(WalkingMines)->Unit(benchmark::kMicrosecond);
 /// A block of mines that stand still, from the blast in its corner to the last Bang.
 void ChainOf5000Mines(benchmark::State& state) {
     int mines = 0;
-    const std::string map = MapOf(LargestMap, [&mines](int col, int row) {
+    const std::string map = MapOf(LargestMap, LargestMap, [&mines](int col, int row) {
         const bool here = col > 1 && row > 1 && col < 102 && mines < 5'000;
         return here ? (++mines, Object{"movingmineP", "none"}) : Object{};
     });
@@ -82,7 +77,7 @@ void ChainOf5000Mines(benchmark::State& state) {
             state.SkipWithError("the chain broke off");
         }
     }
-    CountTicks(state, ticks);
+    CountEach(state, "per_tick", ticks);
 }
 BENCHMARK(ChainOf5000Mines)->Unit(benchmark::kMillisecond);
 
