@@ -15,7 +15,7 @@ namespace tumbledeep {
 inline constexpr int Full = Pool::Limit - 1;
 
 /// The most columns, or rows, within walls.
-inline constexpr int WidestField = AreaGrid::Size - 2;
+inline constexpr int WidestField = GridSize - 2;
 
 /// How many rows of the widest field a pool fills.
 inline constexpr int RowsOfAPool = Full / WidestField;
