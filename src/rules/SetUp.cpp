@@ -19,7 +19,7 @@ void Board::ResetArea() {
         Pool& mines = Pools[row.Which];
         for (const int mine : mines.InTurn()) {
             // A tag that is no heading leaves the star without one.
-            if (const auto heading = mines.HeadingOf(mine)) Turn(row.Which, mine, *heading);
+            if (const auto heading = mines.HeadingOf(mine)) mines.Turn(mine, *heading);
         }
     }
     GemTotal = To16(Pools[Kind::Gem1Type].Count());

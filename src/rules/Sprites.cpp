@@ -1,8 +1,6 @@
-// What several rules do to a sprite: move, take away, turn, roll. A move keeps the sprite and its
+// What several rules do to a sprite: move, take away, roll. A move keeps the sprite and its
 // cell in the grid in step. What only one rule does stands in that rule's file.
 #include "world/Board.h"
-
-#include <algorithm>
 
 namespace tumbledeep {
 
@@ -18,11 +16,6 @@ void Board::TakeAway(Kind kind, int index) {
     Pools[kind].Hide(index);
 }
 
-void Board::Turn(Kind kind, int index, Heading heading) {
-    Pools[kind].SetHeading(index, heading);
-    Pools[kind].Dress(index, HeadingPicture(RowOf(kind).UpPic, heading));
-}
-
 RollSide Board::DrawRollSide() { return random.Rnd() < 0.5F ? RollSide::Right : RollSide::Left; }
 
 void Board::Roll(Kind kind, int index, RollSide side) {
@@ -32,13 +25,6 @@ void Board::Roll(Kind kind, int index, RollSide side) {
         Area(pool.CellOf(index, way)) == Kind::Empty) {
         MoveSprite(kind, index, way);
     }
-}
-
-bool Board::TouchesYou(Kind kind, int index) const {
-    const Pool& pool = Pools[kind];
-    return std::any_of(Headings.begin(), Headings.end(), [&](Heading way) {
-        return Area(pool.CellOf(index, Ahead(way))) == Kind::You;
-    });
 }
 
 } // namespace tumbledeep

@@ -178,14 +178,16 @@ class Board {
     void MoveSprite(Kind kind, int index, Offset offset);
     /// Hides a sprite and empties its cell.
     void TakeAway(Kind kind, int index);
-    /// Sets a mine's heading and the picture that shows it.
-    void Turn(Kind kind, int index, Heading heading);
     /// Draws a side, right or left with equal chance.
     RollSide DrawRollSide();
     /// Moves a sprite one cell to a side, if the cell there and the one below that are empty.
     void Roll(Kind kind, int index, RollSide side);
     /// True when the player stands right above, below, left or right of a sprite's cell.
-    bool TouchesYou(Kind kind, int index) const;
+    bool TouchesYou(Kind kind, int index) const {
+        const Pool& pool = Pools[kind];
+        const auto isYou = [&](Offset way) { return Area(pool.CellOf(index, way)) == Kind::You; };
+        return isYou(Above) || isYou(Below) || isYou(ToLeft) || isYou(ToRight);
+    }
     /// The death of the player, which ends the tick. Who calls it returns at once.
     void YouDie() { Die(Outcome::Died); }
     /// The same with the outcome given, Died or DiedUntold.

@@ -11,21 +11,16 @@ namespace tumbledeep {
 
 namespace {
 
-constexpr TagNumber FirstHeading{1};
-/// The number of the first tag that is no heading; 1 to 4 are the headings.
-constexpr int FirstText = 5;
+constexpr auto FirstText = static_cast<std::size_t>(TagNumber::FirstText);
 /// An equal text among the first ones of the pool is used again. Looking through all of them would
 /// make a map of many different recipes slow to load.
 constexpr std::size_t TextsCompared = 64;
 
-TagNumber NumberOf(Heading heading) {
-    return static_cast<TagNumber>(static_cast<int>(FirstHeading) + static_cast<int>(heading));
-}
-
 } // namespace
 
 Pool::Pool(const KindRow& row)
-    : sprites{{row.TemplateLeft, row.TemplateTop, TagNumber::None, false, row.Template}},
+    : upPic(row.UpPic),
+      sprites{{row.TemplateLeft, row.TemplateTop, TagNumber::None, false, row.Template}},
       cells{HiddenBit} {
     hidden.Insert(0);
     Settle(0);
@@ -43,24 +38,13 @@ int Pool::Add() {
     return index;
 }
 
-std::optional<Heading> Pool::HeadingOf(int index) const {
-    const int number = static_cast<int>((*this)[index].Tag);
-    if (number < static_cast<int>(FirstHeading) || number >= FirstText) return std::nullopt;
-    return static_cast<Heading>(number - static_cast<int>(FirstHeading));
-}
-
 std::string_view Pool::TextOf(TagNumber tag) const {
-    const int number = static_cast<int>(tag);
     if (tag == TagNumber::None) return "";
-    if (number < FirstText) {
-        return HeadingLetters[static_cast<std::size_t>(number - static_cast<int>(FirstHeading))];
-    }
-    return texts[static_cast<std::size_t>(number - FirstText)];
+    if (const auto heading = HeadingNumbered(tag)) return HeadingLetters[Index(*heading)];
+    return texts[static_cast<std::size_t>(tag) - FirstText];
 }
 
 std::string_view Pool::TagText(int index) const { return TextOf((*this)[index].Tag); }
-
-void Pool::SetHeading(int index, Heading heading) { At(index).Tag = NumberOf(heading); }
 
 void Pool::SetTag(int index, std::string_view text) {
     if (text.empty()) {
@@ -72,7 +56,8 @@ void Pool::SetTag(int index, std::string_view text) {
         texts.begin() + static_cast<std::ptrdiff_t>(std::min(texts.size(), TextsCompared));
     auto found = std::find(texts.begin(), last, text);
     if (found == last) found = texts.insert(texts.end(), std::string(text));
-    At(index).Tag = static_cast<TagNumber>(FirstText + (found - texts.begin()));
+    At(index).Tag =
+        static_cast<TagNumber>(FirstText + static_cast<std::size_t>(found - texts.begin()));
 }
 
 void Pool::Put(int index, float left, float top) {
@@ -114,7 +99,7 @@ void Pool::AddTo(Hash& hash) const {
                  std::bit_cast<std::uint32_t>(sprite.Top));
         hash.Add((static_cast<unsigned>(sprite.Look) << 1U) | unsigned{sprite.Visible});
         // A text has its number by the order in which texts came in, so the text itself counts.
-        const int tag = static_cast<int>(sprite.Tag);
+        const auto tag = static_cast<std::size_t>(sprite.Tag);
         tag < FirstText ? hash.Add(tag) : hash.Add(TextOf(sprite.Tag));
     }
 }

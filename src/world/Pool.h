@@ -48,7 +48,9 @@ class Pool {
         return ReckonedCell(index, offset);
     }
     /// The heading in a sprite's tag; none if the tag is anything else.
-    std::optional<Heading> HeadingOf(int index) const;
+    std::optional<Heading> HeadingOf(int index) const {
+        return HeadingNumbered((*this)[index].Tag);
+    }
     /// A sprite's tag as a text, "" without one. Good until the next SetTag.
     std::string_view TagText(int index) const;
 
@@ -89,7 +91,13 @@ class Pool {
         hidden.Insert(index);
     }
     void Dress(int index, Picture look) { At(index).Look = look; }
-    void SetHeading(int index, Heading heading);
+    void SetHeading(int index, Heading heading) { At(index).Tag = NumberOf(heading); }
+    /// Sets a mine's heading and the picture that shows it. For kinds that show their heading.
+    void Turn(int index, Heading heading) {
+        Sprite& sprite = At(index);
+        sprite.Tag = NumberOf(heading);
+        sprite.Look = HeadingPicture(upPic, heading);
+    }
     /// Sets the tag to any text: the letter of a heading, a recipe, "" for none.
     void SetTag(int index, std::string_view text);
 
@@ -175,6 +183,7 @@ class Pool {
     static constexpr unsigned HiddenBit = 1U << 31U;
     static constexpr unsigned BetweenBit = 1U << 30U; ///< see IsBetween
 
+    Picture upPic; ///< the first of the four pictures by heading, None where there are none
     std::vector<Sprite> sprites;
     std::vector<unsigned> cells; ///< by index: what a turn asks first, close together
     IndexSet hidden;

@@ -6,12 +6,25 @@
 
 #include <bit>
 #include <cstdint>
+#include <optional>
 
 namespace tumbledeep {
 
 /// The tag of a sprite by number: none, a heading's letter, or a text that the pool keeps. Only
 /// that pool can tell the text; see TagText.
-enum class TagNumber : std::uint16_t { None };
+enum class TagNumber : std::uint16_t { None, FirstHeading, FirstText = 5 };
+
+constexpr TagNumber NumberOf(Heading heading) {
+    return static_cast<TagNumber>(static_cast<unsigned>(TagNumber::FirstHeading) +
+                                  static_cast<unsigned>(heading));
+}
+
+/// The heading that a tag is; none if it is anything else.
+constexpr std::optional<Heading> HeadingNumbered(TagNumber tag) {
+    if (tag < TagNumber::FirstHeading || tag >= TagNumber::FirstText) return std::nullopt;
+    return static_cast<Heading>(static_cast<unsigned>(tag) -
+                                static_cast<unsigned>(TagNumber::FirstHeading));
+}
 
 /// One sprite as a pool keeps it.
 struct Sprite {

@@ -7,17 +7,15 @@ namespace tumbledeep {
 
 namespace {
 
-/// What a sprite can do on top of a kind.
-enum class On : std::uint8_t { Acts, Rolls, Rests };
-
-constexpr std::array<On, KindCount> Ground = [] {
-    std::array<On, KindCount> ground{};
-    ground.fill(On::Rests);
-    for (const Kind kind : {Kind::Empty, Kind::You})
-        ground.at(static_cast<std::size_t>(kind)) = On::Acts;
-    for (const Kind kind : {Kind::Gem1Type, Kind::RoundRock, Kind::MovingMineT}) {
-        ground.at(static_cast<std::size_t>(kind)) = On::Rolls;
-    }
+/// What a sprite can do on top of a kind: 0 nothing, 1 roll off if there is room, 2 something in
+/// any case.
+constexpr std::array<std::uint8_t, KindCount> Ground = [] {
+    std::array<std::uint8_t, KindCount> ground{};
+    const auto on = [&](Kind kind) -> std::uint8_t& {
+        return ground.at(static_cast<std::size_t>(kind));
+    };
+    on(Kind::Gem1Type) = on(Kind::RoundRock) = on(Kind::MovingMineT) = 1;
+    on(Kind::Empty) = on(Kind::You) = 2;
     return ground;
 }();
 
@@ -38,9 +36,9 @@ int Restless::Next(int from) const {
             if (Pool::IsHiddenCell(cells[index])) continue;
             break;
         }
-        const On ground = Ground[static_cast<std::size_t>(kept[cell + below])];
-        if (ground == On::Rests) continue;
-        if (ground == On::Acts || kept[cell + aside] == Kind::Empty) break;
+        // One question for all cases: which of them it is, no processor could guess.
+        const int blocked = kept[cell + aside] == Kind::Empty ? 0 : 1;
+        if (Ground[static_cast<std::size_t>(kept[cell + below])] > blocked) break;
     }
     return static_cast<int>(index);
 }

@@ -16,10 +16,10 @@ Heading Aim(Heading present, const Sprite& mine, const Sprite& you) {
 } // namespace
 
 void HunterBlock(Board& board, Kind kind, int mine, Heading heading, Aims aims) {
-    const Pool& mines = board.Pools[kind];
+    Pool& mines = board.Pools[kind];
     const bool free = board.Area(mines.CellOf(mine, Ahead(heading))) == Kind::Empty;
     if (free) board.MoveSprite(kind, mine, Ahead(heading));
-    if (!free || aims == Aims::Always) board.Turn(kind, mine, Aim(heading, mines[mine], board.You));
+    if (!free || aims == Aims::Always) mines.Turn(mine, Aim(heading, mines[mine], board.You));
 }
 
 } // namespace tumbledeep

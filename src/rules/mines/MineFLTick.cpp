@@ -6,32 +6,32 @@ namespace tumbledeep {
 
 namespace {
 
-/// What a mine of one heading does.
-struct Block {
-    Heading Own;    ///< the heading, in which it steps if it can
-    Heading Tested; ///< turned to when blocked, if the cell there is empty
-    Heading Other;  ///< turned to otherwise, empty or not
+/// What a mine of one heading turns to when its way is blocked.
+struct Turns {
+    Heading Tested; ///< if the cell there is empty
+    Heading Other;  ///< otherwise, empty or not
 };
 
-// In this order, each block asks whether the mine has its heading now. So a mine that turns from
-// right or left to down or up comes to a second block in the same turn and may step at once, and
-// one that turns the other way does not; tests/films/MinesTest.cpp pins it.
-constexpr std::array<Block, 4> Blocks{{{Heading::Right, Heading::Down, Heading::Up},
-                                       {Heading::Left, Heading::Down, Heading::Up},
-                                       {Heading::Up, Heading::Left, Heading::Right},
-                                       {Heading::Down, Heading::Right, Heading::Left}}};
+/// By heading.
+constexpr std::array<Turns, 4> WhenBlocked{{{Heading::Left, Heading::Right},
+                                            {Heading::Right, Heading::Left},
+                                            {Heading::Down, Heading::Up},
+                                            {Heading::Down, Heading::Up}}};
 
-/// The step or the turn. Returns whether the player stands ahead of the mine afterwards.
-bool RunBlock(Board& board, int mine, const Block& block) {
-    const Pool& mines = board.Pools[Kind::MovingMineFL];
-    const Offset ahead = Ahead(block.Own);
-    if (board.Area(mines.CellOf(mine, ahead)) == Kind::Empty) {
-        board.MoveSprite(Kind::MovingMineFL, mine, ahead);
+/// The step or the turn of a mine with that heading. Returns whether the player stands ahead of the
+/// mine afterwards, in the old heading.
+bool Try(Board& board, int mine, Heading heading) {
+    Pool& mines = board.Pools[Kind::MovingMineFL];
+    const auto isFree = [&](Heading way) {
+        return board.Area(mines.CellOf(mine, Ahead(way))) == Kind::Empty;
+    };
+    if (isFree(heading)) {
+        board.MoveSprite(Kind::MovingMineFL, mine, Ahead(heading));
     } else {
-        const bool free = board.Area(mines.CellOf(mine, Ahead(block.Tested))) == Kind::Empty;
-        board.Turn(Kind::MovingMineFL, mine, free ? block.Tested : block.Other);
+        const Turns& turns = WhenBlocked[Index(heading)];
+        mines.Turn(mine, isFree(turns.Tested) ? turns.Tested : turns.Other);
     }
-    return board.Area(mines.CellOf(mine, ahead)) == Kind::You;
+    return board.Area(mines.CellOf(mine, Ahead(heading))) == Kind::You;
 }
 
 } // namespace
@@ -39,12 +39,18 @@ bool RunBlock(Board& board, int mine, const Block& block) {
 void Board::MineFLTick() {
     const Pool& mines = Pools[Kind::MovingMineFL];
     for (const int mine : mines.InTurn()) {
-        for (const Block& block : Blocks) {
-            if (mines.HeadingOf(mine) != block.Own || !RunBlock(*this, mine, block)) continue;
-            // A quirk that players know: killed by a mine that runs right, they are not told the
-            // gems remaining; tests/films/MinesTest.cpp pins it.
-            return Die(block.Own == Heading::Right ? Outcome::DiedUntold : Outcome::Died);
+        const auto heading = mines.HeadingOf(mine);
+        if (!heading) continue;
+        // A quirk that players know: killed by a mine that runs right, they are not told the gems
+        // remaining; tests/films/MinesTest.cpp pins it, and what follows.
+        if (Try(*this, mine, *heading)) {
+            return Die(*heading == Heading::Right ? Outcome::DiedUntold : Outcome::Died);
         }
+        // A mine that has turned from right or left to down or up may step at once. One that has
+        // turned the other way may not.
+        const auto turned = mines.HeadingOf(mine);
+        if (IsVertical(*heading) || !IsVertical(*turned)) continue;
+        if (Try(*this, mine, *turned)) return YouDie();
     }
 }
 

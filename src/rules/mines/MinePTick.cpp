@@ -7,11 +7,14 @@ namespace tumbledeep {
 void Board::MinePTick() {
     const Pool& mines = Pools[Kind::MovingMineP];
     for (const int mine : mines.InTurn()) {
-        // Each asks for the heading that the mine has by now: a turn to up or down is tried in the
-        // same call, one to left or right is not; tests/films/MinesTest.cpp pins it.
-        for (const Heading heading : {Heading::Right, Heading::Left, Heading::Up, Heading::Down}) {
-            if (mines.HeadingOf(mine) != heading) continue;
-            HunterBlock(*this, Kind::MovingMineP, mine, heading, Aims::WhenBlocked);
+        if (const auto heading = mines.HeadingOf(mine)) {
+            HunterBlock(*this, Kind::MovingMineP, mine, *heading, Aims::WhenBlocked);
+            // A turn to up or down is tried in the same call, one to left or right is not;
+            // tests/films/MinesTest.cpp pins it.
+            const auto turned = mines.HeadingOf(mine);
+            if (!IsVertical(*heading) && IsVertical(*turned)) {
+                HunterBlock(*this, Kind::MovingMineP, mine, *turned, Aims::WhenBlocked);
+            }
         }
         if (TouchesYou(Kind::MovingMineP, mine)) return YouDie();
     }

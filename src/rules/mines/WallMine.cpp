@@ -8,16 +8,16 @@ namespace {
 
 /// At most one step and one turn.
 void TakeTurn(Board& board, Kind kind, int mine, Heading heading, Heading hand) {
-    const Pool& mines = board.Pools[kind];
+    Pool& mines = board.Pools[kind];
     const auto isFree = [&](Heading way) {
         return board.Area(mines.CellOf(mine, Ahead(way))) == Kind::Empty;
     };
     if (isFree(heading)) {
         board.MoveSprite(kind, mine, Ahead(heading));
-        if (isFree(hand)) board.Turn(kind, mine, hand);
+        if (isFree(hand)) mines.Turn(mine, hand);
     } else {
         // It turns to the far side even if that is blocked; tests/films/MinesTest.cpp pins it.
-        board.Turn(kind, mine, isFree(hand) ? hand : Opposite(hand));
+        mines.Turn(mine, isFree(hand) ? hand : Opposite(hand));
     }
 }
 
