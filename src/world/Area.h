@@ -20,6 +20,19 @@ class AreaGrid {
     }
     Kind operator()(int col, int row) const { return (*this)(Cell(col, row)); }
 
+    /// Whether the cell above, below, left or right of a cell holds a kind.
+    bool HasBeside(Cell cell, Kind kind) const {
+        const std::size_t number = cell.Number();
+        constexpr std::size_t row = Cell::RowLength;
+        if (number >= row && number + row < cells.size()) [[likely]] {
+            const Kind* const here = &cells[number];
+            return here[-Cell::RowLength] == kind || here[Cell::RowLength] == kind ||
+                   here[-1] == kind || here[1] == kind;
+        }
+        return (*this)(cell + Above) == kind || (*this)(cell + Below) == kind ||
+               (*this)(cell + ToLeft) == kind || (*this)(cell + ToRight) == kind;
+    }
+
     /// Writes a cell. What is written outside the grid is dropped.
     void Set(Cell cell, Kind kind) {
         if (!cell.InGrid()) return;

@@ -185,6 +185,7 @@ class Board {
     /// True when the player stands right above, below, left or right of a sprite's cell.
     bool TouchesYou(Kind kind, int index) const {
         const Pool& pool = Pools[kind];
+        if (!pool.LiesBetween(index)) return Area.HasBeside(pool.CellOf(index), Kind::You);
         const auto isYou = [&](Offset way) { return Area(pool.CellOf(index, way)) == Kind::You; };
         return isYou(Above) || isYou(Below) || isYou(ToLeft) || isYou(ToRight);
     }

@@ -58,6 +58,11 @@ class Pool {
     /// The pool must not be full.
     int Add();
 
+    /// Whether a sprite lies so between two cells that a step can lead from its cell to another
+    /// than the next one.
+    bool LiesBetween(int index) const {
+        return (cells[static_cast<std::size_t>(index)] & BetweenBit) != 0;
+    }
     /// The numbers of all sprites' cells by index, for loops that cannot ask for each. Numbers that
     /// no cell has stand for sprites that are hidden or lie between cells.
     std::span<const unsigned> CellNumbers() const { return cells; }

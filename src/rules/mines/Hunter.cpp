@@ -9,8 +9,9 @@ namespace {
 /// The next heading towards the player: up or down after a level one, left or right after an
 /// upright one. On a tie it is up or left; tests/films/MinesTest.cpp pins it.
 Heading Aim(Heading present, const Sprite& mine, const Sprite& you) {
-    if (!IsVertical(present)) return you.Top > mine.Top ? Heading::Down : Heading::Up;
-    return you.Left > mine.Left ? Heading::Right : Heading::Left;
+    const Heading upright = you.Top > mine.Top ? Heading::Down : Heading::Up;
+    const Heading level = you.Left > mine.Left ? Heading::Right : Heading::Left;
+    return IsVertical(present) ? level : upright;
 }
 
 } // namespace

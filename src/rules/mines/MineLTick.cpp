@@ -4,6 +4,6 @@
 
 namespace tumbledeep {
 
-void Board::MineLTick() { WallMineTick(*this, Kind::MovingMineL, LeftOf); }
+void Board::MineLTick() { WallMineTick(*this, Kind::MovingMineL, Hand::Left); }
 
 } // namespace tumbledeep

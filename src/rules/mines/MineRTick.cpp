@@ -4,6 +4,6 @@
 
 namespace tumbledeep {
 
-void Board::MineRTick() { WallMineTick(*this, Kind::MovingMineR, RightOf); }
+void Board::MineRTick() { WallMineTick(*this, Kind::MovingMineR, Hand::Right); }
 
 } // namespace tumbledeep

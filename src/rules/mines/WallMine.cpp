@@ -23,12 +23,13 @@ void TakeTurn(Board& board, Kind kind, int mine, Heading heading, Heading hand) 
 
 } // namespace
 
-void WallMineTick(Board& board, Kind kind, Heading (*hand)(Heading)) {
+void WallMineTick(Board& board, Kind kind, Hand hand) {
     const Pool& mines = board.Pools[kind];
     for (const int mine : mines.InTurn()) {
         // A mine whose tag is no heading stands still, and kills all the same.
         if (const auto heading = mines.HeadingOf(mine)) {
-            TakeTurn(board, kind, mine, *heading, hand(*heading));
+            const Heading side = hand == Hand::Left ? LeftOf(*heading) : RightOf(*heading);
+            TakeTurn(board, kind, mine, *heading, side);
         }
         if (board.TouchesYou(kind, mine)) return board.YouDie();
     }

@@ -6,8 +6,10 @@
 
 namespace tumbledeep {
 
-/// Gives each mine of a kind its turn and its kill. `hand` is LeftOf or RightOf: the quarter turn
-/// towards the hand at which the kind keeps its wall. Returns at once when the player dies.
-void WallMineTick(Board& board, Kind kind, Heading (*hand)(Heading));
+/// The hand at which a kind keeps its wall.
+enum class Hand : std::uint8_t { Left, Right };
+
+/// Gives each mine of a kind its turn and its kill. Returns at once when the player dies.
+void WallMineTick(Board& board, Kind kind, Hand hand);
 
 } // namespace tumbledeep
