@@ -92,8 +92,8 @@ template <class AnySprite> constexpr Cell CellOf(const AnySprite& sprite, Offset
 }
 
 /// Whether a column or row, not rounded, lies so close to the middle between two whole numbers that
-/// CellOf can give other neighbours than a step from the nearest one. Single precision is off by
-/// less than this margin everywhere on the grid.
+/// CellOf can give other neighbours than a step from the nearest one. On the grid, what single
+/// precision loses here and in moves is far less than the margin of a thousandth.
 constexpr bool IsBetween(float place) {
     const float aside = place - RoundToEven(place);
     return aside > 0.499F || aside < -0.499F;

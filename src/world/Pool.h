@@ -72,16 +72,13 @@ class Pool {
 
     void Put(int index, float left, float top);
     void Move(int index, Offset offset) {
-        Sprite& sprite = At(index);
         unsigned& cell = CellWord(index);
-        const Sprite before = sprite;
-        ShiftByCells(sprite, offset);
+        ShiftByCells(At(index), offset);
         ForgetSpots();
-        // A sum that is exact leaves the sprite where it was within its cell.
-        const bool exact = sprite.Left - before.Left == static_cast<float>(offset.Col) * Pitch &&
-                           sprite.Top - before.Top == static_cast<float>(offset.Row) * Pitch;
+        // On the grid a sprite keeps its place within its cell, but for some hundredths of a twip:
+        // a sum is rounded once to each power of two at most, however far the sprite goes.
         const Cell from = Cell::Numbered(cell & ~HiddenBit);
-        if (!exact || !from.InGrid()) return Settle(index);
+        if (!from.InGrid()) return Settle(index);
         cell = (from + offset).Number() | (cell & HiddenBit);
     }
     void Show(int index) {

@@ -23,7 +23,29 @@ std::vector<int> LookedUp(const Pool& pool, float left, float top, bool hiddenTo
     return found;
 }
 
+/// What no rule does to a pool that has just been asked.
+void Disturb(Pool& pool, Dice& dice) {
+    const int index = dice.Below(pool.Count());
+    const auto look = [&] {
+        pool.VisibleAt(pool[index].Left, pool[index].Top);
+        pool.AllAt(pool[index].Left, pool[index].Top);
+    };
+    look();
+    const Pool before = pool;
+    switch (dice.Below(20)) {
+    case 0: pool.Hide(index); break;
+    case 1: pool.Show(index); break;
+    case 2: pool.Move(index, dice.Once(2) ? ToLeft : Below); break;
+    case 3: pool.Add(); break;
+    default: return;
+    }
+    if (dice.Once(2)) return;
+    look();
+    pool = before;
+}
+
 void ExpectAnswersLikePlainScans(Pool& pool, Dice& dice) {
+    Disturb(pool, dice);
     int last = -1;
     int hidden = 0;
     for (int i = 0; i < pool.Count(); ++i) {
@@ -37,6 +59,8 @@ void ExpectAnswersLikePlainScans(Pool& pool, Dice& dice) {
     }
     ASSERT_EQ(pool.LastHidden(), last);
     ASSERT_EQ(pool.HiddenCount(), hidden);
+    for (const int index : pool.InTurn()) hidden += pool[index].Visible;
+    ASSERT_EQ(hidden, pool.Count());
     for (int look = 0; look < 4; ++look) {
         const Sprite& near = pool[dice.Below(pool.Count())];
         const float left = near.Left + Aside.at(static_cast<std::size_t>(dice.Below(8)));
