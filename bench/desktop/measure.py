@@ -1,11 +1,13 @@
 """Measures the game in its window on a virtual screen: start to first painted board, the change
-from map to map, and the processor time of quiet and busy boards. Figures for people, no test.
+from map to map, the processor time of quiet and busy boards, and whether the clock keeps its pace.
+What one paint costs is measured by tumbledeep-paint-bench. Figures for people, no test.
 
 usage: TUMBLEDEEP=build/release/tumbledeep python3 bench/desktop/measure.py
 """
 
 import os
 import pathlib
+import re
 import statistics
 import subprocess
 import sys
@@ -19,6 +21,9 @@ import screen  # noqa: E402
 
 TICKS_PER_SECOND = os.sysconf("SC_CLK_TCK")
 SECONDS = 5.0
+# A run long enough to time, and its ticks: 51 of the 301 ticks of a cycle read a held arrow.
+STEPS = 240
+TICKS_OF_RUN = STEPS * 301 / 51
 
 
 class Measure(screen.GameTest):
@@ -52,6 +57,19 @@ class Measure(screen.GameTest):
             lines.append("movingmineL %d %d R" % (row * 360, col * 360))
         return "\n".join(lines) + "\n"
 
+    def corridors(self, size):
+        """Corridors with 4,000 L mines, walls and dirt between them; the player's has a gem."""
+        middle, lines = size // 2 | 1, []
+        for row in range(size):
+            line = "harddirt" if row % 4 == 0 else "dirt"
+            cols = range(size) if row % 2 == 0 else (0, size - 1)
+            lines += ["%s %d %d" % (line, row * 360, col * 360) for col in cols]
+            mines = range(5, size - 5, 11) if row % 2 and row != middle else ()
+            lines += ["movingmineL %d %d R" % (row * 360, col * 360) for col in mines]
+        lines += ["you %d %d" % (middle * 360, 30 * 360),
+                  "gem1type %d %d" % (middle * 360, (30 + STEPS) * 360)]
+        (self.dir / "M.TBM").write_text("\n".join(lines) + "\n")
+
     # Figures.
 
     def cpu(self, seconds=SECONDS):
@@ -63,8 +81,17 @@ class Measure(screen.GameTest):
         time.sleep(seconds)
         return 100 * (used() - begin) / (time.monotonic() - start)
 
-    def start_to_paint(self):
-        """Milliseconds from the start of the process to its word that the board is painted."""
+    def switches(self, seconds=SECONDS):
+        """How often a second the process has gone to sleep, all of its threads together."""
+        def count():
+            return sum(int(re.search(r"^voluntary\D*(\d+)", status.read_text(), re.M)[1])
+                       for status in pathlib.Path("/proc/%d/task" % self.pids()[0]).glob("*/status"))
+        before = count()
+        time.sleep(seconds)
+        return (count() - before) / seconds
+
+    def start_maximised(self):
+        """Starts the game as a successor; milliseconds to its word that the board is painted."""
         read, write = os.pipe()
         start = time.monotonic()
         self.first = subprocess.Popen(
@@ -74,6 +101,10 @@ class Measure(screen.GameTest):
         os.read(read, 1)
         elapsed = 1000 * (time.monotonic() - start)
         os.close(read)
+        return elapsed
+
+    def start_to_paint(self):
+        elapsed = self.start_maximised()
         self.kill_games()
         return elapsed
 
@@ -118,6 +149,33 @@ class Measure(screen.GameTest):
         print("%-52s %5.1f %% of one core" % (what, self.cpu()))
         self.kill_games()
 
+    def paused(self, what):
+        self.write_settings("M.TBM")
+        self.start_maximised()
+        time.sleep(1.0)
+        self.screen.key("p")
+        time.sleep(1.0)
+        print("%-52s %5.1f %% of one core, asleep and awake %.1f times a second" % (
+            what, self.cpu(), self.switches()))
+        self.kill_games()
+
+    def pace(self, what, mode):
+        """A run along a corridor to the gem that wins the map, in a maximised window."""
+        self.write_settings("M.TBM", "True" if mode else "False", mode or 2)
+        self.start_maximised()
+        time.sleep(1.0)
+        self.screen.hands("keydown", "Right")
+        start = time.monotonic()
+        time.sleep(1.0)
+        per_cent = self.cpu()
+        # At full pace it ends no sooner; looking for the box takes processor time itself.
+        time.sleep(start + TICKS_OF_RUN / 100 - time.monotonic())
+        screen.wait_until("the box at the end", lambda: self.screen.windows("Tumbledeep"))
+        ticks = TICKS_OF_RUN / (time.monotonic() - start)
+        self.screen.run("xdotool", "keyup", "Right")
+        print("%-52s %5.1f %% of one core, %5.1f ticks a second" % (what, per_cent, ticks))
+        self.kill_games()
+
 
 def main():
     run = Measure()
@@ -145,6 +203,10 @@ def main():
         run.board_cpu("301 by 301, 4,000 mines, gliding", 2, [("keydown", "Right")])
         run.room(301, 301)
         run.board_cpu("301 by 301, gliding", 2, [("keydown", "Right")])
+        run.corridors(300)
+        run.pace("300 by 300, mines in corridors, still view", 0)
+        run.pace("300 by 300, mines in corridors, gliding", 2)
+        run.paused("300 by 300, mines in corridors, paused")
     finally:
         run.doCleanups()
 
