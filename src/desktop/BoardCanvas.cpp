@@ -3,7 +3,7 @@
 // two cells can open or blur.
 #include "desktop/BoardCanvas.h"
 
-#include "pictures/Catalogue.h"
+#include "desktop/Places.h"
 
 #include <QGuiApplication>
 #include <QInputMethodEvent>
@@ -21,8 +21,6 @@ namespace tumbledeep {
 namespace {
 
 constexpr QRgb ParentBackground = 0xFF808080;
-/// With more changes than this, one repaint of their bounds is cheaper than many small ones.
-constexpr std::size_t ManyChanges = 256;
 
 std::optional<Heading> ArrowOf(const QKeyEvent& event) {
     switch (event.key()) {
@@ -67,38 +65,37 @@ QPointF BoardCanvas::ToDevicePoint(const QPointF& logical) const {
 void BoardCanvas::Sync() {
     const int scale = Scale();
     images.SetScale(scale);
-    const frmDocument& board = game.ActiveChild;
-    const QRect boardRect = board.Form.Visible ? BoardRect(board, scale) : QRect();
-    const QRect visible = DeviceRect().translated(-boardRect.topLeft());
-    const auto changes = look.Changes(board, scale, visible);
-    const QRect before = shownBoard;
-    const bool rescaled = scale != shownScale;
-    shownBoard = boardRect;
-    shownScale = scale;
+    const QRect boardRect = BoardRect(game.ActiveChild, scale);
+    const QPoint corner = boardRect.topLeft();
+    ChangedTiles changes((DeviceRect() & boardRect).translated(-corner), scale);
+    look.Update(game.ActiveChild, scale, changes);
+    const QRect before = std::exchange(shownBoard, boardRect);
+    const bool rescaled = std::exchange(shownScale, scale) != scale;
     if (rescaled || boardRect.size() != before.size()) return update();
 
-    const QPoint moved = boardRect.topLeft() - before.topLeft();
+    const QPoint moved = corner - before.topLeft();
     const auto ratio = static_cast<int>(devicePixelRatioF());
-    const bool wholeRatio = devicePixelRatioF() == ratio;
     if (!moved.isNull()) {
-        if (!wholeRatio || moved.x() % ratio != 0 || moved.y() % ratio != 0) return update();
+        if (!HasWholeRatio() || moved.x() % ratio != 0 || moved.y() % ratio != 0) return update();
         scroll(moved.x() / ratio, moved.y() / ratio);
     }
-    if (changes.size() > ManyChanges) {
-        QRect bounds;
-        for (const QRect& change : changes) bounds |= change;
-        return UpdateDevice(bounds.translated(boardRect.topLeft()));
-    }
-    for (const QRect& change : changes) UpdateDevice(change.translated(boardRect.topLeft()));
+    UpdateDevice(changes.Region().translated(corner));
+}
+
+bool BoardCanvas::HasWholeRatio() const {
+    return devicePixelRatioF() == std::floor(devicePixelRatioF());
 }
 
 /// At broken ratios a logical pixel covers parts of device pixels, so one more is taken all round.
-void BoardCanvas::UpdateDevice(const QRect& device) {
+void BoardCanvas::UpdateDevice(const QRegion& device) {
     const qreal ratio = devicePixelRatioF();
-    const QRect logical = QRectF(device.x() / ratio, device.y() / ratio, device.width() / ratio,
-                                 device.height() / ratio)
-                              .toAlignedRect();
-    update(ratio == std::floor(ratio) ? logical : logical.adjusted(-1, -1, 1, 1));
+    if (ratio == 1) return update(device);
+    const int round = HasWholeRatio() ? 0 : 1;
+    for (const QRect& part : device) {
+        const QRectF logical(part.x() / ratio, part.y() / ratio, part.width() / ratio,
+                             part.height() / ratio);
+        update(logical.toAlignedRect().adjusted(-round, -round, round, round));
+    }
 }
 
 void BoardCanvas::paintEvent(QPaintEvent* event) {
@@ -112,61 +109,38 @@ void BoardCanvas::paintEvent(QPaintEvent* event) {
     painter.setWorldTransform(wholePixels * device.inverted());
 
     const qreal ratio = devicePixelRatioF();
-    const QRect boardRect =
-        game.ActiveChild.Form.Visible ? BoardRect(game.ActiveChild, Scale()) : QRect();
+    const int round = HasWholeRatio() ? 0 : 1;
+    const QRect boardRect = BoardRect(game.ActiveChild, Scale());
     for (const QRect& exposed : event->region()) {
         const QRect part = QRectF(exposed.x() * ratio, exposed.y() * ratio, exposed.width() * ratio,
                                   exposed.height() * ratio)
                                .toAlignedRect()
-                               .adjusted(-1, -1, 1, 1);
+                               .adjusted(-round, -round, round, round);
         for (const QRect& outside : QRegion(part) - boardRect) {
             painter.fillRect(outside, QColor::fromRgb(ParentBackground));
         }
-        PaintBoard(painter, part & boardRect, boardRect);
+        PaintBoard(painter, part & boardRect, boardRect.topLeft());
     }
     if (!std::exchange(cameUp, true)) CameUp();
     if (game.ActiveChild.Form.Visible && !std::exchange(boardPainted, true)) BoardPainted();
 }
 
-void BoardCanvas::PaintBoard(QPainter& painter, const QRect& part, const QRect& boardRect) const {
+void BoardCanvas::PaintBoard(QPainter& painter, const QRect& part, QPoint corner) const {
     if (part.isEmpty()) return;
-    const int scale = Scale();
-    const frmDocument& board = game.ActiveChild;
     painter.setClipRect(part);
     painter.fillRect(part, Qt::white);
-    const auto paint = [&](float left, float top, const QImage& image) {
-        const QRect rect = SpriteRect(left, top, scale).translated(boardRect.topLeft());
-        if (rect.intersects(part)) painter.drawImage(rect.topLeft(), image);
-    };
-    bool youPainted = false;
-    for (const Kind kind : PaintOrder()) {
-        const bool isShape = RowOf(kind).IsShape;
-        if (!isShape && !std::exchange(youPainted, true)) {
-            paint(board.You.Left, board.You.Top, images.You);
-        }
-        for (const Sprite& sprite : board.Pools[kind]) {
-            if (!sprite.Visible) continue;
-            paint(sprite.Left, sprite.Top, isShape ? images.Of(kind) : images.Of(sprite.Look));
-        }
+    for (const BoardLook::Shown& shown : look.Within(part.translated(-corner), Scale())) {
+        painter.drawImage(shown.Corner + corner, images.Of(shown.Which, shown.Look));
     }
     painter.setClipping(false);
 }
 
 bool BoardCanvas::OnSurface(const QPointF& device) const {
-    const frmDocument& board = game.ActiveChild;
-    const QRect boardRect = BoardRect(board, Scale());
-    const QPoint point = QPoint(static_cast<int>(device.x()), static_cast<int>(device.y()));
-    if (!board.Form.Visible || !boardRect.contains(point)) return false;
-    const QPoint onBoard = point - boardRect.topLeft();
-    for (const KindRow& row : PoolKinds()) {
-        if (row.IsShape) continue;
-        const Pool& pool = board.Pools[row.Which];
-        const bool covered = std::any_of(pool.begin(), pool.end(), [&](const Sprite& sprite) {
-            return sprite.Visible && SpriteRect(sprite.Left, sprite.Top, Scale()).contains(onBoard);
-        });
-        if (covered) return false;
-    }
-    return true;
+    const QRect boardRect = BoardRect(game.ActiveChild, Scale());
+    const QPoint point(static_cast<int>(device.x()), static_cast<int>(device.y()));
+    if (!boardRect.contains(point)) return false;
+    const auto there = look.Within({point - boardRect.topLeft(), QSize(1, 1)}, Scale());
+    return std::ranges::all_of(there, IsSurface, &BoardLook::Shown::Which);
 }
 
 void BoardCanvas::keyPressEvent(QKeyEvent* event) {

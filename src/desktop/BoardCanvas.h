@@ -6,6 +6,7 @@
 #include "desktop/BoardLook.h"
 #include "desktop/HeldArrows.h"
 #include "desktop/SpriteImages.h"
+#include "windows/frmMain.h"
 
 #include <QWidget>
 
@@ -56,12 +57,15 @@ class BoardCanvas final : public QWidget {
 
   private:
     void Type(const QString& text);
-    void UpdateDevice(const QRect& device);
+    /// A logical pixel is a square of whole device pixels.
+    bool HasWholeRatio() const;
+    void UpdateDevice(const QRegion& device);
     QRect DeviceRect() const;
     QPointF ToDevicePoint(const QPointF& logical) const;
     /// True if the point, in device pixels, is on the board's own surface and on no picture.
     bool OnSurface(const QPointF& device) const;
-    void PaintBoard(QPainter& painter, const QRect& part, const QRect& boardRect) const;
+    /// Paints a part of the board that has its corner there.
+    void PaintBoard(QPainter& painter, const QRect& part, QPoint corner) const;
 
     frmMain& game;
     std::optional<int> fixedScale;

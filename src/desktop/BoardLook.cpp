@@ -1,71 +1,93 @@
-// How twips become device pixels, and how sprites are compared with those last shown. Whole pools
-// are compared first, as nothing has changed in most of them.
+// How the sprites are compared with those last seen, a chunk of a pool at a time, and the order of
+// painting.
 #include "desktop/BoardLook.h"
 
-#include "pictures/Bitmap.h"
+#include "desktop/Places.h"
+#include "pictures/Catalogue.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstring>
 
 namespace tumbledeep {
 
 namespace {
 
-/// Beyond any screen; keeps the arithmetic of rectangles far from its limits.
-constexpr float FarAway = 10'000'000;
+using Layers = std::array<Kind, BoardLook::LayerCount>;
+
+/// The player is painted between shapes and pictures.
+const Layers& PaintedKinds() {
+    static const Layers kinds = [] {
+        Layers all{};
+        const auto& pools = PaintOrder();
+        const auto pictures = std::ranges::find_if_not(pools, IsSurface);
+        auto next = std::copy(pools.begin(), pictures, all.begin());
+        *next++ = Kind::You;
+        std::copy(pictures, pools.end(), next);
+        return all;
+    }();
+    return kinds;
+}
+
+/// In the index places are in pixels of the game, so that it holds for every scale.
+QPoint IndexedCorner(const Sprite& sprite) { return SpriteCorner(sprite, 1); }
+
+/// The corners, in pixels of the game, of all sprites that can reach into a part of it. Rounding to
+/// device pixels moves a sprite by up to a pixel on either side, and another is to spare.
+QRect CornersOf(const QRect& part, int scale) {
+    constexpr int slack = 2;
+    const int reach = SpriteSide(1) - 1 + slack;
+    return {QPoint(part.left() / scale - reach, part.top() / scale - reach),
+            QPoint(part.right() / scale + slack, part.bottom() / scale + slack)};
+}
 
 } // namespace
 
-int ToDevice(float twips, int scale) {
-    const float device = std::floor(twips / TwipsPerPixel * static_cast<float>(scale) + 0.5F);
-    return static_cast<int>(std::clamp(device, -FarAway, FarAway));
-}
-
-QRect SpriteRect(float left, float top, int scale) {
-    const int size = Bitmap::Size * scale;
-    return {ToDevice(left, scale), ToDevice(top, scale), size, size};
-}
-
-QRect BoardRect(const frmDocument& board, int scale) {
-    return {ToDevice(board.Form.Left, scale), ToDevice(board.Form.Top, scale),
-            std::max(0, ToDevice(board.Form.Width, scale)),
-            std::max(0, ToDevice(board.Form.Height, scale))};
-}
-
-namespace {
-
-bool SameAll(const Pool& pool, const std::vector<Sprite>& last) {
-    // By the bytes, as sprites compare: this runs over every pool after every tick.
-    static_assert(sizeof(Sprite) == 12, "no padding");
-    return last.size() == static_cast<std::size_t>(pool.Count()) &&
-           std::memcmp(last.data(), &pool[0], last.size() * sizeof(Sprite)) == 0;
-}
-
-} // namespace
-
-std::vector<QRect> BoardLook::Changes(const frmDocument& board, int scale, const QRect& visible) {
-    std::vector<QRect> changes;
-    const auto add = [&](const Sprite& sprite) {
-        const QRect rect = SpriteRect(sprite.Left, sprite.Top, scale) & visible;
-        if (sprite.Visible && !rect.isEmpty()) changes.push_back(rect);
-    };
-    const auto compare = [&](const Sprite& before, const Sprite& now) {
-        if (before == now) return;
-        add(before);
-        add(now);
-    };
-    for (std::size_t p = 0; p < PoolCount; ++p) {
-        const Pool& pool = board.Pools[PoolKinds()[p].Which];
-        std::vector<Sprite>& last = pools[p];
-        if (SameAll(pool, last)) continue;
-        last.resize(static_cast<std::size_t>(pool.Count()));
-        for (int i = 0; i < pool.Count(); ++i) compare(last[static_cast<std::size_t>(i)], pool[i]);
-        last.assign(pool.begin(), pool.end());
+void BoardLook::Update(Board& board, int scale, ChangedTiles& changes) {
+    for (std::size_t layer = 0; layer < LayerCount; ++layer) {
+        const Kind kind = PaintedKinds()[layer];
+        if (kind == Kind::You) {
+            layers[layer].resize(1);
+            Take(layer, 0, board.You, scale, changes);
+            continue;
+        }
+        Pool& pool = board.Pools[kind];
+        const Pool::Chunks chunks = pool.TakeChanges();
+        if (chunks.none()) continue;
+        layers[layer].resize(static_cast<std::size_t>(pool.Count()));
+        for (int begin = 0; begin < pool.Count(); begin += Pool::ChunkSize) {
+            if (!chunks[static_cast<std::size_t>(begin / Pool::ChunkSize)]) continue;
+            const int end = std::min(begin + Pool::ChunkSize, pool.Count());
+            for (int i = begin; i < end; ++i) Take(layer, i, pool[i], scale, changes);
+        }
     }
-    compare(you, board.You);
-    you = board.You;
-    return changes;
+}
+
+void BoardLook::Take(std::size_t layer, int i, const Sprite& now, int scale,
+                     ChangedTiles& changes) {
+    Sprite& before = layers[layer][static_cast<std::size_t>(i)];
+    if (before == now) return;
+    const SpriteNumber number = NumberOf(layer, i);
+    if (before.Visible) {
+        index.Remove(number, IndexedCorner(before));
+        changes.Mark(SpriteRect(before, scale));
+    }
+    if (now.Visible) {
+        index.Add(number, IndexedCorner(now));
+        changes.Mark(SpriteRect(now, scale));
+    }
+    before = now;
+}
+
+std::vector<BoardLook::Shown> BoardLook::Within(const QRect& part, int scale) const {
+    std::vector<Shown> found;
+    for (const SpriteNumber number : index.Near(CornersOf(part, scale))) {
+        const std::size_t layer = LayerOf(number);
+        const Sprite& sprite = layers[layer][IndexOf(number)];
+        const QRect place = SpriteRect(sprite, scale);
+        if (place.intersects(part)) {
+            found.push_back({PaintedKinds()[layer], sprite.Look, place.topLeft()});
+        }
+    }
+    return found;
 }
 
 } // namespace tumbledeep

@@ -1,35 +1,43 @@
-// Where things lie on the screen in device pixels, and what of the board has been shown, so that
-// after a tick only what has changed is painted again. The painting is BoardCanvas's.
+// What of the board is shown: the sprites as they were when last looked at. Looking again costs
+// time by what has changed since, finding what lies in a part of the board by what lies there. The
+// painting is BoardCanvas's.
 #pragma once
 
-#include "windows/frmMain.h"
-
-#include <QRect>
+#include "desktop/ChangedTiles.h"
+#include "desktop/SpriteIndex.h"
+#include "windows/frmDocument.h"
 
 #include <array>
 #include <vector>
 
 namespace tumbledeep {
 
-/// Twips to whole device pixels. `scale` is device pixels to a pixel of the game.
-int ToDevice(float twips, int scale);
+/// Part of the board's own surface: a kind of shape, or the player.
+inline bool IsSurface(Kind kind) { return kind == Kind::You || RowOf(kind).IsShape; }
 
-/// The place of a sprite on the board, in device pixels.
-QRect SpriteRect(float left, float top, int scale);
-
-/// The place of the board in the parent's client area, in device pixels.
-QRect BoardRect(const frmDocument& board, int scale);
-
-/// Remembers the sprites as they were last seen.
 class BoardLook {
   public:
-    /// The places on the board, in device pixels, whose look has changed since the last call, cut
-    /// to what lies within `visible`.
-    std::vector<QRect> Changes(const frmDocument& board, int scale, const QRect& visible);
+    /// The kinds that are painted, by layers from the lowest.
+    static constexpr std::size_t LayerCount = PoolCount + 1;
+
+    /// Something shown on the board, a sprite or the player.
+    struct Shown {
+        Kind Which;
+        Picture Look;
+        QPoint Corner; ///< in device pixels on the board, as are all places here
+    };
+
+    /// Looks at the board, and marks where its look has changed since the last time.
+    void Update(Board& board, int scale, ChangedTiles& changes);
+
+    /// All that lies in a part of the board, in the order of painting.
+    std::vector<Shown> Within(const QRect& part, int scale) const;
 
   private:
-    std::array<std::vector<Sprite>, PoolCount> pools; ///< by the order of the kinds
-    Sprite you;
+    void Take(std::size_t layer, int index, const Sprite& now, int scale, ChangedTiles& changes);
+
+    std::array<std::vector<Sprite>, LayerCount> layers;
+    SpriteIndex index;
 };
 
 } // namespace tumbledeep

@@ -25,10 +25,19 @@ void SpriteImages::SetScale(int scale) {
     scaleNow = scale;
     hardDirt = ImageOf(ShapeBitmap(Shape::HardDirt), scale);
     dirt = ImageOf(ShapeBitmap(Shape::Dirt), scale);
-    You = ImageOf(ShapeBitmap(Shape::You), scale,
+    you = ImageOf(ShapeBitmap(Shape::You), scale,
                   [](int x, int y) { return ShapeCovers(Shape::You, x, y); });
     pictures.clear();
     for (const Bitmap& bitmap : Catalogue()) pictures.push_back(ImageOf(bitmap, scale));
+}
+
+const QImage& SpriteImages::Of(Kind kind, Picture look) const {
+    switch (kind) {
+    case Kind::You: return you;
+    case Kind::HardDirt: return hardDirt;
+    case Kind::Dirt: return dirt;
+    default: return pictures[static_cast<std::size_t>(look)];
+    }
 }
 
 } // namespace tumbledeep

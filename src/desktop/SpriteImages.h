@@ -18,13 +18,12 @@ class SpriteImages {
     /// before. Comes before any image is asked for.
     void SetScale(int scale);
 
-    const QImage& Of(Picture picture) const { return pictures[static_cast<std::size_t>(picture)]; }
-    /// Of a kind that is a shape.
-    const QImage& Of(Kind shape) const { return shape == Kind::Dirt ? dirt : hardDirt; }
-    QImage You;
+    /// What is painted for a sprite of that kind, or for the player. Shapes have one look each.
+    const QImage& Of(Kind kind, Picture look) const;
 
   private:
     int scaleNow = 0;
+    QImage you;
     QImage hardDirt;
     QImage dirt;
     std::vector<QImage> pictures;
