@@ -147,6 +147,7 @@ class Measure(screen.GameTest):
             self.screen.run("xdotool", *key)
         time.sleep(0.3)
         print("%-52s %5.1f %% of one core" % (what, self.cpu()))
+        self.screen.run("xdotool", "keyup", "Right")
         self.kill_games()
 
     def paused(self, what):
