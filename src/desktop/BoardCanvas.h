@@ -37,7 +37,8 @@ class BoardCanvas final : public QWidget {
     /// The board has been painted for the first time.
     std::function<void()> BoardPainted;
 
-    /// Repaints what has changed since the last call.
+    /// Looks at the board, which is painted as it is now until the next call, and has repainted
+    /// what has changed since the last one.
     void Sync();
     /// From here on the board follows the mouse, until the button is released.
     void BeginDrag() { dragging = true; }

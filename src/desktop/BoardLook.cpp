@@ -11,6 +11,8 @@ namespace tumbledeep {
 
 namespace {
 
+static_assert(BoardLook::LayerCount <= MostLayers && Pool::Limit <= 1 << IndexBits);
+
 using Layers = std::array<Kind, BoardLook::LayerCount>;
 
 /// The player is painted between shapes and pictures.
@@ -27,7 +29,6 @@ const Layers& PaintedKinds() {
     return kinds;
 }
 
-/// In the index places are in pixels of the game, so that it holds for every scale.
 QPoint IndexedCorner(const Sprite& sprite) { return SpriteCorner(sprite, 1); }
 
 /// The corners, in pixels of the game, of all sprites that can reach into a part of it. Rounding to
@@ -67,11 +68,11 @@ void BoardLook::Take(std::size_t layer, int i, const Sprite& now, int scale,
     if (before == now) return;
     const SpriteNumber number = NumberOf(layer, i);
     if (before.Visible) {
-        index.Remove(number, IndexedCorner(before));
+        byPlace.Remove(number, IndexedCorner(before));
         changes.Mark(SpriteRect(before, scale));
     }
     if (now.Visible) {
-        index.Add(number, IndexedCorner(now));
+        byPlace.Add(number, IndexedCorner(now));
         changes.Mark(SpriteRect(now, scale));
     }
     before = now;
@@ -79,7 +80,7 @@ void BoardLook::Take(std::size_t layer, int i, const Sprite& now, int scale,
 
 std::vector<BoardLook::Shown> BoardLook::Within(const QRect& part, int scale) const {
     std::vector<Shown> found;
-    for (const SpriteNumber number : index.Near(CornersOf(part, scale))) {
+    for (const SpriteNumber number : byPlace.Near(CornersOf(part, scale))) {
         const std::size_t layer = LayerOf(number);
         const Sprite& sprite = layers[layer][IndexOf(number)];
         const QRect place = SpriteRect(sprite, scale);

@@ -34,10 +34,10 @@ class BoardLook {
     std::vector<Shown> Within(const QRect& part, int scale) const;
 
   private:
-    void Take(std::size_t layer, int index, const Sprite& now, int scale, ChangedTiles& changes);
+    void Take(std::size_t layer, int i, const Sprite& now, int scale, ChangedTiles& changes);
 
     std::array<std::vector<Sprite>, LayerCount> layers;
-    SpriteIndex index;
+    SpriteIndex byPlace; ///< of those that are visible; in pixels of the game, for every scale
 };
 
 } // namespace tumbledeep

@@ -11,7 +11,7 @@ constexpr int CellSide = 24; // in pixels of the game
 
 /// Up to so many tiles between two marked ones of a row are painted along with them: that takes
 /// less time than one more rectangle does.
-constexpr int WidestGap = 4;
+constexpr int WidestGap = 8;
 
 /// What lies left of the board or above it counts for its first tiles.
 QRect TilesUnder(const QRect& place, int side) {

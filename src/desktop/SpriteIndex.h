@@ -11,10 +11,11 @@
 
 namespace tumbledeep {
 
-/// A sprite by the layer in which it is painted, below 16, and its index in the layer. Rising
-/// numbers are the order of painting.
+/// A sprite by the layer in which it is painted and its index there. Rising numbers are the order
+/// of painting.
 enum class SpriteNumber : std::uint32_t { None = UINT32_MAX };
 
+inline constexpr std::size_t MostLayers = 16;
 inline constexpr unsigned IndexBits = 15;
 
 constexpr SpriteNumber NumberOf(std::size_t layer, int index) {
@@ -51,7 +52,7 @@ class SpriteIndex {
     const Link& At(SpriteNumber number) const { return links[LayerOf(number)][IndexOf(number)]; }
 
     std::vector<SpriteNumber> firsts; ///< the first sprite of each square
-    std::array<std::vector<Link>, 16> links;
+    std::array<std::vector<Link>, MostLayers> links;
 };
 
 } // namespace tumbledeep
