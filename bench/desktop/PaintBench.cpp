@@ -74,7 +74,7 @@ BENCHMARK(OnePress)->Unit(benchmark::kMicrosecond);
 /// 4,000 mines in corridors with walls and dirt between. Shown or not, it plays whole cycles, so
 /// that the difference is what showing costs.
 void Corridors(benchmark::State& state, bool isShown) {
-    const std::string map = MapOf(LargestMap, [](int col, int row) {
+    const std::string map = MapOf(LargestMap, LargestMap, [](int col, int row) {
         if (row % 2 == 0) return Object{row % 4 == 0 ? "harddirt" : "dirt", ""};
         return col % 11 == 5 ? Object{"movingmineL", "R"} : Object{};
     });

@@ -150,8 +150,7 @@ TEST_F(Offscreen, AnyPartOfAnyBoardIsPaintedAsByAWalkOverAllSprites) {
             Pool& pool = board.Pools[PoolKinds()[static_cast<std::size_t>(below(PoolCount))].Which];
             const int i = below(3) == 0 ? pool.Add() : below(pool.Count());
             below(4) == 0 ? pool.Hide(i) : pool.Show(i);
-            if (below(2) == 0) pool.PutLeft(i, place());
-            if (below(2) == 0) pool.PutTop(i, place());
+            if (const float left = place(); below(2) == 0) pool.Put(i, left, place());
             if (below(9) == 0) pool.Dress(i, Member(Picture::RoundRockPic, below(7)));
         }
         board.You.Left = place();
