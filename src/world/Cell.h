@@ -69,15 +69,16 @@ class Cell {
     unsigned number;
 };
 
-/// The nearest whole number as a column or row, a tie going to the even one. Numbers farther
-/// outside the grid than any rule looks all give one that is outside too, since an int might not
-/// hold them.
-constexpr int GridIndex(float value) {
+/// A whole number as a column or row. Numbers farther outside the grid than any rule looks all give
+/// one that is outside too, since an int might not hold them.
+constexpr int WholeIndex(float whole) {
     constexpr float farthest = 1000.0F;
-    const float whole = RoundToEven(value);
     const bool near = whole >= static_cast<float>(-Cell::Margin) && whole <= farthest;
     return near ? static_cast<int>(whole) : static_cast<int>(farthest);
 }
+
+/// The nearest whole number as a column or row, a tie going to the even one.
+constexpr int GridIndex(float value) { return WholeIndex(RoundToEven(value)); }
 
 /// The column or row of a position in twips, not rounded, `cells` added to it.
 constexpr float GridPlace(float twips, int cells = 0) {
@@ -91,12 +92,11 @@ template <class AnySprite> constexpr Cell CellOf(const AnySprite& sprite, Offset
             GridIndex(GridPlace(sprite.Top, offset.Row))};
 }
 
-/// Whether a column or row, not rounded, lies so close to the middle between two whole numbers that
-/// CellOf can give other neighbours than a step from the nearest one. On the grid, what single
-/// precision loses here and in moves is far less than the margin of a thousandth.
-constexpr bool IsBetween(float place) {
-    const float aside = place - RoundToEven(place);
-    return aside > 0.499F || aside < -0.499F;
+/// Whether a column or row, not rounded and rounded, lies so close to the middle between two whole
+/// numbers that CellOf can give other neighbours than a step from the nearest one. On the grid,
+/// what single precision loses here and in moves is far less than the margin of a thousandth.
+constexpr bool IsBetween(float place, float whole) {
+    return place - whole > 0.499F || place - whole < -0.499F;
 }
 
 /// Moves anything with `Left` and `Top` by whole cells. An axis without a shift is not touched:

@@ -73,8 +73,13 @@ Cell Pool::ReckonedCell(int index, Offset offset) const {
 void Pool::Settle(int index) {
     const Sprite& sprite = (*this)[index];
     unsigned& cell = CellWord(index);
-    const bool between = IsBetween(GridPlace(sprite.Left)) || IsBetween(GridPlace(sprite.Top));
-    cell = tumbledeep::CellOf(sprite).Number() | (between ? BetweenBit : 0U) | (cell & HiddenBit);
+    const float col = GridPlace(sprite.Left);
+    const float row = GridPlace(sprite.Top);
+    const float wholeCol = RoundToEven(col);
+    const float wholeRow = RoundToEven(row);
+    const bool between = IsBetween(col, wholeCol) || IsBetween(row, wholeRow);
+    const Cell nearest(WholeIndex(wholeCol), WholeIndex(wholeRow));
+    cell = nearest.Number() | (between ? BetweenBit : 0U) | (cell & HiddenBit);
     ForgetSpots();
 }
 
