@@ -17,9 +17,9 @@ constexpr std::array<Offset, 9> Block{
 void BlowUp(Board& board, Kind kind, float left, float top) {
     Pool& pool = board.Pools[kind];
     for (const int i : pool.VisibleAt(left, top)) {
-        board.TakeAway(kind, i);
+        pool.Hide(i);
+        board.Area.Set(pool.CellOf(i), IsMine(kind) ? Kind::Bang : Kind::Empty);
         if (!IsMine(kind)) continue;
-        board.Area.Set(pool.CellOf(i), Kind::Bang);
         board.SpawnObject(Kind::Bang, pool[i].Left, pool[i].Top, Heading::Down);
     }
 }
