@@ -43,9 +43,8 @@ class Pool {
     /// mostly without reckoning.
     Cell CellOf(int index, Offset offset = Here) const {
         const unsigned cell = cells[static_cast<std::size_t>(index)] & ~HiddenBit;
-        if (cell < BetweenBit) [[likely]]
-            return Cell::Numbered(cell) + offset;
-        return ReckonedCell(index, offset);
+        if (cell >= BetweenBit) return ReckonedCell(index, offset);
+        return Cell::Numbered(cell) + offset;
     }
     /// The heading in a sprite's tag; none if the tag is anything else.
     std::optional<Heading> HeadingOf(int index) const {
@@ -142,8 +141,10 @@ class Pool {
 
           private:
             void PassHidden() {
-                while (index < last && IsHiddenCell(of->cells[static_cast<std::size_t>(index)]))
-                    ++index;
+                const auto isHidden = [this] {
+                    return IsHiddenCell(of->cells[static_cast<std::size_t>(index)]);
+                };
+                while (index < last && isHidden()) ++index;
             }
             const Pool* of;
             int index;
