@@ -16,6 +16,32 @@ constexpr auto FirstText = static_cast<std::size_t>(TagNumber::FirstText);
 /// make a map of many different recipes slow to load.
 constexpr std::size_t TextsCompared = 64;
 
+// For a sprite between two cells, how far the cell a step away lies from where the step leads: two
+// bits with a sign for each step of an axis, from -1 to 2 without 0.
+constexpr unsigned FirstCorrection = 1U << 18U; ///< beyond the number of any cell
+constexpr unsigned ColBits = 18;
+constexpr unsigned RowBits = 24;
+
+constexpr unsigned ShiftOf(unsigned axis, int step) {
+    return axis + 2U * static_cast<unsigned>(step < 0 ? 0 : step);
+}
+
+int Correction(unsigned cell, unsigned axis, int step) {
+    if (step == 0) return 0;
+    const auto bits = static_cast<int>(cell >> ShiftOf(axis, step) & 3U);
+    return (bits ^ 2) - 2;
+}
+
+unsigned Corrections(float twips, int nearest, unsigned axis) {
+    unsigned all = 0;
+    for (const int step : {-1, 1, 2}) {
+        const int off = GridIndex(GridPlace(twips, step)) - (nearest + step);
+        // Far outside the grid all cells are alike.
+        if (off == 1 || off == -1) all |= (static_cast<unsigned>(off) & 3U) << ShiftOf(axis, step);
+    }
+    return all;
+}
+
 } // namespace
 
 Pool::Pool(const KindRow& row)
@@ -66,8 +92,9 @@ void Pool::Put(int index, float left, float top) {
     Settle(index);
 }
 
-Cell Pool::ReckonedCell(int index, Offset offset) const {
-    return tumbledeep::CellOf((*this)[index], offset);
+Cell Pool::CorrectedCell(unsigned cell, Offset offset) {
+    return Cell::Numbered(cell % FirstCorrection) + offset +
+           Offset{Correction(cell, ColBits, offset.Col), Correction(cell, RowBits, offset.Row)};
 }
 
 void Pool::Settle(int index) {
@@ -77,9 +104,13 @@ void Pool::Settle(int index) {
     const float row = GridPlace(sprite.Top);
     const float wholeCol = RoundToEven(col);
     const float wholeRow = RoundToEven(row);
-    const bool between = IsBetween(col, wholeCol) || IsBetween(row, wholeRow);
-    const Cell nearest(WholeIndex(wholeCol), WholeIndex(wholeRow));
-    cell = nearest.Number() | (between ? BetweenBit : 0U) | (cell & HiddenBit);
+    const int nearestCol = WholeIndex(wholeCol);
+    const int nearestRow = WholeIndex(wholeRow);
+    cell = Cell(nearestCol, nearestRow).Number() | (cell & HiddenBit);
+    if (IsBetween(col, wholeCol) || IsBetween(row, wholeRow)) {
+        cell |= BetweenBit | Corrections(sprite.Left, nearestCol, ColBits) |
+                Corrections(sprite.Top, nearestRow, RowBits);
+    }
     ForgetSpots();
 }
 

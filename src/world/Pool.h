@@ -39,11 +39,11 @@ class Pool {
     auto begin() const { return sprites.begin(); }
     auto end() const { return sprites.end(); }
 
-    /// The cell of a sprite, or one up to two cells from it. As CellOf in Cell.h gives it, and
-    /// mostly without reckoning.
+    /// The cell of a sprite, or one near it: up to two below and one in the other ways. As CellOf
+    /// in Cell.h gives it, but without reckoning.
     Cell CellOf(int index, Offset offset = Here) const {
         const unsigned cell = cells[static_cast<std::size_t>(index)] & ~HiddenBit;
-        if (cell >= BetweenBit) return ReckonedCell(index, offset);
+        if (cell >= BetweenBit) return CorrectedCell(cell, offset);
         return Cell::Numbered(cell) + offset;
     }
     /// The heading in a sprite's tag; none if the tag is anything else.
@@ -172,8 +172,8 @@ class Pool {
     std::string_view TextOf(TagNumber tag) const;
 
     void NoteChange(int index) { changed[static_cast<std::size_t>(index) / ChunkSize] = true; }
-    /// The cell by the sprite's place, however it lies.
-    Cell ReckonedCell(int index, Offset offset) const;
+    /// The same for a sprite that lies between two cells, by what is kept of it.
+    static Cell CorrectedCell(unsigned cell, Offset offset);
     unsigned& CellWord(int index) { return cells[static_cast<std::size_t>(index)]; }
     void ForgetSpots() {
         visibleSpots.Forget();
@@ -184,7 +184,7 @@ class Pool {
 
     // Beside a cell's number, where `cells` keeps it.
     static constexpr unsigned HiddenBit = 1U << 31U;
-    static constexpr unsigned BetweenBit = 1U << 30U; ///< see IsBetween
+    static constexpr unsigned BetweenBit = 1U << 30U; ///< see IsBetween; corrections are below it
 
     Picture upPic; ///< the first of the four pictures by heading, None where there are none
     std::vector<Sprite> sprites;
