@@ -18,7 +18,9 @@ void AreaGrid::GrowTo(int row) {
 bool operator==(const AreaGrid& a, const AreaGrid& b) {
     const AreaGrid& less = a.cells.size() < b.cells.size() ? a : b;
     const AreaGrid& more = &less == &a ? b : a;
-    if (std::memcmp(less.cells.data(), more.cells.data(), less.cells.size()) != 0) return false;
+    const bool sameKept = less.cells.empty() ||
+                          std::memcmp(less.cells.data(), more.cells.data(), less.cells.size()) == 0;
+    if (!sameKept) return false;
     for (int row = std::max(0, less.UsedRows()); row < more.UsedRows(); ++row) {
         for (int col = 0; col < GridSize; ++col) {
             if (more(col, row) != Kind::Empty) return false;
