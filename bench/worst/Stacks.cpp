@@ -68,11 +68,14 @@ Board HiddenStacks() {
     return WithBangs(std::move(board));
 }
 
-/// As many sprites, each in a place of its own: evenly spread over `width` twips from `from` on.
+/// As many sprites, each in a place of its own: evenly spread over `width` twips from `from` on, in
+/// no order.
 std::string Spread(const Object& what, float from, float width, float top, int count = Full) {
     std::string map;
     for (int i = 0; i < count; ++i) {
-        map += LineOf(what, from + width * static_cast<float>(i) / static_cast<float>(count), top);
+        const int scattered = i * 7919 % count;
+        const float part = static_cast<float>(scattered) / static_cast<float>(count);
+        map += LineOf(what, from + width * part, top);
     }
     return map;
 }
@@ -82,6 +85,23 @@ std::string Spread(const Object& what, float from, float width, float top, int c
 Board BangsAboveSpread(float from, float width) {
     Board board = LoadEndless(Spread(Mine(Kind::MovingMineP), from, width, At(Middle + 1)));
     while (board.Pools[Kind::Bang].Count() <= Full) AddBang(board, At(0), At(Middle));
+    return board;
+}
+
+/// A stack of Bangs, or spread ones, and spread sprites on each of the eight cells round them, all
+/// `aside` or a little more from the places that the blasts look at.
+Board BangsAmongSpread(float aside, float bangWidth) {
+    std::string map;
+    for (const auto& [what, col, row] : Neighbours()) {
+        map += Spread(what, At(1 + col) + aside, 0.9F, At(Middle + row));
+    }
+    Board board = LoadEndless(map);
+    board.Stamp(Kind::MovingMinePP);
+    const Pool& bangs = board.Pools[Kind::Bang];
+    for (int i = 0; bangs.Count() <= Full; ++i) {
+        const float part = static_cast<float>(i * 7919 % Full) / static_cast<float>(Full);
+        AddBang(board, At(1) + bangWidth * part, At(Middle));
+    }
     return board;
 }
 
@@ -142,6 +162,10 @@ constexpr WorstMap Maps[] = {
     {"BangsBeside/hidden stacks", HiddenStacks, 24},
     {"BangsBeside/spread within a twip", [] { return BangsAboveSpread(-0.9F, 1.8F); }, 24},
     {"BangsBeside/spread from 1 to 2 twips", [] { return BangsAboveSpread(1, 1); }, 24},
+    {"BangsAmong/spread beside them", [] { return BangsAmongSpread(2, 0); }, 24},
+    {"BangsAmong/spread, beside spread", [] { return BangsAmongSpread(1.9F, 0.9F); }, 24},
+    {"BangsAmong/spread, some hit", [] { return BangsAmongSpread(1, 0.9F); }, 24},
+    {"BangsAmong/spread, all hit", [] { return BangsAmongSpread(0, 0.9F); }, 24},
     {"NearTie/P", [] { return NearTie(Kind::MovingMineP); }, 12},
     {"NearTie/L", [] { return NearTie(Kind::MovingMineL); }, 12},
     {"NearTie/P, spread", NearTieSpread, 12},

@@ -117,14 +117,24 @@ void Pool::Settle(int index) {
 std::span<const int> Pool::VisibleAt(float left, float top) {
     if (!visibleSpots.IsMade()) visibleSpots.Make(sprites, false);
     lookedUp.clear();
-    visibleSpots.Find(sprites, false, left, top, lookedUp);
+    visibleSpots.Find(sprites, Wanted::Visible, left, top, lookedUp);
     return lookedUp;
 }
 
 std::span<const int> Pool::AllAt(float left, float top) {
     if (!allSpots.IsMade()) allSpots.Make(sprites, true);
     lookedUp.clear();
-    allSpots.Find(sprites, true, left, top, lookedUp);
+    allSpots.Find(sprites, Wanted::All, left, top, lookedUp);
+    return lookedUp;
+}
+
+std::span<const int> Pool::FewAt(float left, float top) {
+    VisibleAt(left, top);
+    if (!allSpots.IsMade()) allSpots.Make(sprites, true);
+    // Less than 2 twips have two cells at most: those of the leftmost and the rightmost.
+    allSpots.Find(sprites, Wanted::Few, left, top, lookedUp);
+    std::sort(lookedUp.begin(), lookedUp.end());
+    lookedUp.erase(std::unique(lookedUp.begin(), lookedUp.end()), lookedUp.end());
     return lookedUp;
 }
 

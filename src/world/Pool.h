@@ -33,6 +33,8 @@ class Pool {
     /// How many sprites there are, hidden ones and the template included. It never falls.
     int Count() const { return static_cast<int>(sprites.size()); }
     bool Full() const { return Count() >= Limit; }
+    /// No sprite is hidden, and none can be added.
+    bool Spent() const { return Full() && HiddenCount() == 0; }
 
     /// The sprite at an index from 0 to Count() - 1. The reference is good until the next Add.
     const Sprite& operator[](int index) const { return sprites[static_cast<std::size_t>(index)]; }
@@ -120,6 +122,9 @@ class Pool {
     std::span<const int> VisibleAt(float left, float top);
     /// The same with the hidden ones.
     std::span<const int> AllAt(float left, float top);
+    /// Of AllAt the visible ones and a few more, rising: the one with the highest index, and at
+    /// least one on each cell where any stands.
+    std::span<const int> FewAt(float left, float top);
 
     /// The turns of a routine of the clock: the index of each visible sprite, rising. The count is
     /// read once, so a sprite added meanwhile has no turn. Whether a sprite is visible is asked

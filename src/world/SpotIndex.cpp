@@ -1,47 +1,50 @@
 // A hash table of chains. Places that a whole number of twips tells apart lie in chains of their
-// own, as nearly all do; the others share one with all those up to the next whole twip.
+// own, as nearly all do; the others share one with all those up to the next whole twip. Where that
+// makes a crowd, SpotRun.h takes over.
 #include "world/SpotIndex.h"
+
+#include "world/Spot.h"
 
 #include <algorithm>
 #include <array>
-#include <bit>
+#include <utility>
 
 namespace tumbledeep {
 
 namespace {
 
-/// Less than 1 twip apart, reckoned as the rules do.
-bool IsAt(const Sprite& sprite, float left, float top) {
-    return sprite.Top == top && sprite.Left - 1.0F < left && left < sprite.Left + 1.0F;
+/// Sorts indexes of a pool. Of many, a bit for each is quicker than comparisons.
+void SortRising(std::vector<int>& indexes) {
+    constexpr std::size_t few = 64;
+    if (indexes.size() < few) return std::sort(indexes.begin(), indexes.end());
+    std::array<std::uint64_t, 512> words{};
+    for (const int index : indexes) {
+        const auto bit = static_cast<std::size_t>(index);
+        words.at(bit / 64) |= std::uint64_t{1} << bit % 64;
+    }
+    indexes.clear();
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        for (std::uint64_t bits = words.at(i); bits != 0; bits &= bits - 1) {
+            indexes.push_back(static_cast<int>(i) * 64 + std::countr_zero(bits));
+        }
+    }
 }
-
-/// The whole twip at or before a place. All places too far out for an int to hold share one.
-int TwipBefore(float left) {
-    constexpr float farthest = 0x1p30F;
-    if (left < -farthest || left > farthest) return static_cast<int>(farthest);
-    const int towardsZero = static_cast<int>(left);
-    return static_cast<float>(towardsZero) > left ? towardsZero - 1 : towardsZero;
-}
-
-/// A number by its bits, both zeros alike.
-std::uint64_t Bits(float number) { return std::bit_cast<std::uint32_t>(number + 0.0F); }
 
 } // namespace
 
 SpotIndex::Link* SpotIndex::Chain(int twip, bool between, float top) {
-    const std::uint64_t key = static_cast<std::uint64_t>(twip) << 33U | Bits(top) << 1U;
-    const std::uint64_t hash = (key + (between ? 1U : 0U)) * 0x9E3779B97F4A7C15U;
-    return &chains[static_cast<std::size_t>(hash >> shift)];
+    return &chains[SpotChain(SpotKey(twip, top) ^ (between ? 1U : 0U), shift)];
 }
 
 void SpotIndex::Make(std::span<const Sprite> sprites, bool hiddenToo) {
-    const auto bits = static_cast<unsigned>(std::bit_width(sprites.size() / 2 | 1U));
-    shift = static_cast<int>(64U - bits);
-    chains.assign(std::size_t{1} << bits, None);
-    next.resize(sprites.size());
+    made = true;
+    withHidden = hiddenToo;
+    runMade = false;
     anyBetween = false;
-    // From the last sprite to the first, each put before those of its chain: so they rise.
-    for (std::size_t i = sprites.size(); i-- > 0;) {
+    shift = ChainShift(sprites.size());
+    chains.assign(std::size_t{1} << static_cast<unsigned>(64 - shift), None);
+    next.resize(sprites.size());
+    for (std::size_t i = 0; i < sprites.size(); ++i) {
         const Sprite& sprite = sprites[i];
         if (!sprite.Visible && !hiddenToo) continue;
         const int twip = TwipBefore(sprite.Left);
@@ -51,34 +54,51 @@ void SpotIndex::Make(std::span<const Sprite> sprites, bool hiddenToo) {
         next[i] = *first;
         *first = static_cast<Link>(i);
     }
-    made = true;
 }
 
-void SpotIndex::Find(std::span<const Sprite> sprites, bool hiddenToo, float left, float top,
+void SpotIndex::Find(std::span<const Sprite> sprites, Wanted wanted, float left, float top,
                      std::vector<int>& found) {
-    const int twip = TwipBefore(left);
-    const bool between = static_cast<float>(twip) != left;
-    std::array<Link*, 5> looked{Chain(twip, false, top)};
-    std::size_t count = 1;
-    if (between) looked.at(count++) = Chain(twip + 1, false, top);
-    if (anyBetween) {
-        for (const int at : {twip - 1, twip, twip + 1}) looked.at(count++) = Chain(at, true, top);
+    if (anyBetween && (runMade || wanted == Wanted::Few)) {
+        if (!std::exchange(runMade, true)) run.Make(sprites, withHidden);
+        run.Find(sprites, wanted, left, top, found);
+        return SortRising(found);
     }
-    for (std::size_t i = 0; i < count; ++i) {
-        for (Link* link = looked[i]; *link != None;) {
-            const Sprite& sprite = sprites[*link];
-            if (!sprite.Visible && !hiddenToo) {
-                *link = next[*link];
-                continue;
-            }
-            if (IsAt(sprite, left, top)) found.push_back(*link);
-            link = &next[*link];
+    const int before = TwipBefore(left);
+    const bool whole = static_cast<float>(before) == left;
+    int inVain = Follow(Chain(before, false, top), sprites, wanted, left, top, found);
+    if (whole && !anyBetween) return std::reverse(found.begin(), found.end());
+    if (!whole) inVain += Follow(Chain(before + 1, false, top), sprites, wanted, left, top, found);
+    if (anyBetween) {
+        for (const int twip : {before - 1, before, before + 1}) {
+            inVain += Follow(Chain(twip, true, top), sprites, wanted, left, top, found);
         }
     }
-    if (count == 1) return;
+    SortRising(found);
     // Some of the chains can be one and the same.
-    std::sort(found.begin(), found.end());
     found.erase(std::unique(found.begin(), found.end()), found.end());
+    constexpr int tooMany = 200;
+    if (inVain > tooMany && anyBetween) {
+        run.Make(sprites, withHidden);
+        runMade = true;
+    }
+}
+
+int SpotIndex::Follow(Link* link, std::span<const Sprite> sprites, Wanted wanted, float left,
+                      float top, std::vector<int>& found) {
+    int inVain = 0;
+    while (*link != None) {
+        const Sprite& sprite = sprites[*link];
+        if (!sprite.Visible && wanted == Wanted::Visible) {
+            *link = next[*link];
+            continue;
+        }
+        const bool isThere = sprite.Top == top && IsBeside(sprite.Left, left);
+        inVain += !isThere;
+        if (isThere) found.push_back(*link);
+        if (isThere && wanted == Wanted::Few) break;
+        link = &next[*link];
+    }
+    return inVain;
 }
 
 } // namespace tumbledeep

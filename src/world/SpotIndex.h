@@ -4,6 +4,7 @@
 // stale.
 #pragma once
 
+#include "world/SpotRun.h"
 #include "world/Sprite.h"
 
 #include <cstdint>
@@ -29,12 +30,12 @@ class SpotIndex {
     /// The memory is kept, as the next index will need as much.
     void Forget() { made = false; }
 
-    /// Puts in the visible sprites, or all.
+    /// Puts in the visible sprites, or all. Only those that are in can be wanted.
     void Make(std::span<const Sprite> sprites, bool hiddenToo);
 
     /// Appends the indexes, rising, of the sprites that stand at `top` exactly and less than 1 twip
-    /// from `left`. With `hiddenToo` off, those that are hidden by now are left out and forgotten.
-    void Find(std::span<const Sprite> sprites, bool hiddenToo, float left, float top,
+    /// from `left`. Of Wanted::Visible, those that are hidden by now are forgotten.
+    void Find(std::span<const Sprite> sprites, Wanted wanted, float left, float top,
               std::vector<int>& found);
 
   private:
@@ -44,12 +45,18 @@ class SpotIndex {
     /// Where the chain begins for sprites at a whole twip from the left, or between it and the
     /// next.
     Link* Chain(int twip, bool between, float top);
+    /// The search through one chain. Returns how many were passed that are not wanted.
+    int Follow(Link* link, std::span<const Sprite> sprites, Wanted wanted, float left, float top,
+               std::vector<int>& found);
 
     bool made = false;
+    bool withHidden = false;
     bool anyBetween = false;  ///< a sprite stands at no whole twip from the left
+    bool runMade = false;     ///< `run` has what the chains have
     int shift = 0;            ///< what of a hash tells its chain
-    std::vector<Link> chains; ///< first index of each, by the hash of a place
-    std::vector<Link> next;   ///< by index: the next one of the same chain, higher than this
+    std::vector<Link> chains; ///< last index of each, by the hash of a place
+    std::vector<Link> next;   ///< by index: the next one of the same chain, lower than this
+    SpotRun run;              ///< made when the chains have turned out long
 };
 
 } // namespace tumbledeep

@@ -13,7 +13,13 @@ namespace {
 void HitMine(Board& board, int rock, Kind kind) {
     Pool& rocks = board.Pools[Kind::RoundRock];
     Pool& mines = board.Pools[kind];
-    for (const int mine : mines.AllAt(rocks[rock].Left, rocks[rock].Top + Pitch)) {
+    const float left = rocks[rock].Left;
+    const float top = rocks[rock].Top + Pitch;
+    // Without a Bang to be had, a hit on a hidden mine empties the rock's cell and marks the
+    // mine's, that is all. However many there are, each of their cells ends up marked, but the
+    // rock's own as the last hit leaves it.
+    const bool spent = board.Pools[Kind::Bang].Spent();
+    for (const int mine : spent ? mines.FewAt(left, top) : mines.AllAt(left, top)) {
         mines.Hide(mine);
         rocks.Hide(rock);
         board.SpawnObject(Kind::Bang, mines[mine].Left, mines[mine].Top, Heading::Down);
