@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace tumbledeep {
 
 namespace {
@@ -95,6 +97,40 @@ TEST(Pool, AnswersLikePlainScansAtEveryTick) {
                 ExpectAnswersLikePlainScans(board.Pools[row.Which], dice);
                 if (HasFatalFailure()) FAIL() << row.Text << " seed " << seed << " tick " << tick;
             }
+        }
+    }
+}
+
+TEST(Pool, FindsItsWayInACrowd) {
+    for (std::uint32_t seed = 1; seed <= 40; ++seed) {
+        Dice dice(seed);
+        Pool pool(RowOf(Kind::MovingMineP));
+        const auto place = [&] {
+            return static_cast<float>(178 * 64 + dice.Below(dice.Once(2) ? 64 : 256)) / 64;
+        };
+        while (pool.Count() < 1000) pool.Put(pool.Add(), place(), 0);
+        for (int i = 1; i < 1000; ++i) pool.Show(i);
+        for (int look = 0; look < 60; ++look) {
+            const float left = place();
+            const auto visible = pool.VisibleAt(left, 0);
+            const std::vector<int> taken(visible.begin(), visible.end());
+            ASSERT_EQ(taken, LookedUp(pool, left, 0, false)) << seed;
+            const auto all = pool.AllAt(left, 0);
+            const std::vector<int> every(all.begin(), all.end());
+            ASSERT_EQ(every, LookedUp(pool, left, 0, true)) << seed;
+            const auto few = pool.FewAt(left, 0);
+            const auto cells = [&](const auto& indexes) {
+                std::set<unsigned> numbers;
+                for (const int i : indexes) numbers.insert(pool.CellOf(i).Number());
+                return numbers;
+            };
+            ASSERT_EQ(cells(few), cells(every));
+            ASSERT_TRUE(every.empty() || few.back() == every.back());
+            ASSERT_TRUE(std::ranges::includes(few, taken) && std::ranges::includes(every, few));
+            for (const int index : taken) {
+                if (!dice.Once(9)) pool.Hide(index);
+            }
+            if (dice.Once(20)) pool.Put(dice.Below(1000), place(), 0);
         }
     }
 }
