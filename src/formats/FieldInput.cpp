@@ -12,6 +12,10 @@ namespace {
 
 constexpr bool EndsLine(char c) { return c == '\r' || c == '\n'; }
 
+bool TakesQuotes(std::string_view text) {
+    return text.starts_with(' ') || text.find_first_of(",\r\n") != std::string_view::npos;
+}
+
 } // namespace
 
 FieldInput::FieldInput(std::string bytes) : text(std::move(bytes)) {
@@ -47,6 +51,21 @@ void FieldInput::PassCharacter() {
     if (passed == '\r' && !AtEnd() && text[position] == '\n') ++position;
     ++line;
     lineStart = position;
+}
+
+std::vector<Record> ReadRecords(std::string bytes) {
+    std::vector<Record> records;
+    for (FieldInput input(std::move(bytes)); !input.AtEnd();) records.push_back(input.Next());
+    return records;
+}
+
+std::string WriteRecords(const std::vector<Record>& records) {
+    std::string bytes;
+    for (const Record& record : records) {
+        const std::string_view quote = TakesQuotes(record.Text) ? "\"" : "";
+        bytes.append(quote).append(record.Text).append(quote) += '\n';
+    }
+    return bytes;
 }
 
 } // namespace tumbledeep

@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tumbledeep {
 
@@ -40,5 +41,13 @@ class FieldInput {
     std::size_t lineStart = 0; ///< where the line begins in which that is
     int line = 1;              ///< the number of that line
 };
+
+/// All records of a file's bytes.
+std::vector<Record> ReadRecords(std::string bytes);
+
+/// The bytes of a file that is read as these texts: one to a line, in quotes where one would be cut
+/// or lose blanks without them. A text that holds a quote and what takes quotes can't be written;
+/// no file is read as one.
+std::string WriteRecords(const std::vector<Record>& records);
 
 } // namespace tumbledeep

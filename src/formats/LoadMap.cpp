@@ -35,11 +35,13 @@ void PutOnBoard(Board& board, const MapLine& line) {
 }
 
 Board LoadMap(std::string bytes, std::uint32_t seed) {
+    return LoadMap(ReadRecords(std::move(bytes)), seed);
+}
+
+Board LoadMap(const std::vector<Record>& map, std::uint32_t seed) {
     Board board;
     board.Randomize(seed);
-    for (FieldInput input(std::move(bytes)); !input.AtEnd();) {
-        PutOnBoard(board, ReadMapLine(input.Next()));
-    }
+    for (const Record& record : map) PutOnBoard(board, ReadMapLine(record));
     board.ResetArea();
     board.ResetStart(seed);
     return board;

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace tumbledeep {
 
@@ -20,5 +21,7 @@ void PutOnBoard(Board& board, const MapLine& line);
 /// `seed` twice: before the lines, which draw pictures, and for play. Throws Failure as PutOnBoard
 /// does. Titles are passed over.
 Board LoadMap(std::string bytes, std::uint32_t seed);
+/// The same from records that have been read already.
+Board LoadMap(const std::vector<Record>& map, std::uint32_t seed);
 
 } // namespace tumbledeep

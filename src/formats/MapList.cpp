@@ -7,11 +7,7 @@
 
 namespace tumbledeep {
 
-std::vector<Record> ReadMapList(std::string bytes) {
-    std::vector<Record> list;
-    for (FieldInput input(std::move(bytes)); !input.AtEnd();) list.push_back(input.Next());
-    return list;
-}
+std::vector<Record> ReadMapList(std::string bytes) { return ReadRecords(std::move(bytes)); }
 
 ListSearch FindNext(const std::vector<Record>& list, std::string_view name) {
     if (list.empty()) return {true, std::nullopt};

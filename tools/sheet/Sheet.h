@@ -2,7 +2,7 @@
 // column to a heading or member. The drawings are src/pictures'.
 #pragma once
 
-#include "Image.h"
+#include "image/Image.h"
 
 namespace tumbledeep {
 

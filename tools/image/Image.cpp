@@ -1,6 +1,6 @@
 // How images get their sizes, and the writing of a PNG file by libpng. The icon is made by the mean
 // of areas, so that it is good at sizes that no whole factor gives.
-#include "Image.h"
+#include "image/Image.h"
 
 #include "pictures/Catalogue.h"
 
