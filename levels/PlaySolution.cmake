@@ -1,6 +1,6 @@
-# Plays a map's solution in a directory of its own. It must win, and lead to the next map of the
+# Plays a map's solution in a directory of its own, on the maps and lists of the folder MAPS. It must win, and lead to the next map of the
 # list or, from the last one, to the list's end.
-#   cmake -D TRACE=tumbledeep-trace -D MAP=NAME -P PlaySolution.cmake
+#   cmake -D TRACE=tumbledeep-trace -D MAP=NAME -D MAPS=FOLDER -P PlaySolution.cmake
 set(levels ${CMAKE_CURRENT_LIST_DIR})
 set(solution "${levels}/solutions/${MAP}.txt")
 
@@ -10,7 +10,7 @@ if(NOT directory)
   set(directory /tmp)
 endif()
 string(APPEND directory "/tumbledeep-level-${tag}")
-file(GLOB maps "${levels}/*.TB[ML]")
+file(GLOB maps "${MAPS}/*.TB[ML]")
 file(COPY ${maps} DESTINATION "${directory}")
 
 # A run ends by itself when it is won; a solution that loses its way plays on to this step.

@@ -15,7 +15,6 @@ import time
 
 HERE = pathlib.Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE.parent.parent / "tests" / "desktop"))
-os.environ.setdefault("TUMBLEDEEP_LEVELS", str(HERE.parent.parent / "levels"))
 
 import screen  # noqa: E402
 

@@ -13,7 +13,8 @@ namespace {
 constexpr bool EndsLine(char c) { return c == '\r' || c == '\n'; }
 
 bool TakesQuotes(std::string_view text) {
-    return text.starts_with(' ') || text.find_first_of(",\r\n") != std::string_view::npos;
+    return text.starts_with(' ') || text.starts_with('"') ||
+           text.find_first_of(",\r\n") != std::string_view::npos;
 }
 
 } // namespace
@@ -57,6 +58,10 @@ std::vector<Record> ReadRecords(std::string bytes) {
     std::vector<Record> records;
     for (FieldInput input(std::move(bytes)); !input.AtEnd();) records.push_back(input.Next());
     return records;
+}
+
+bool CanWrite(std::string_view text) {
+    return !TakesQuotes(text) || text.find('"') == std::string_view::npos;
 }
 
 std::string WriteRecords(const std::vector<Record>& records) {

@@ -45,9 +45,12 @@ class FieldInput {
 /// All records of a file's bytes.
 std::vector<Record> ReadRecords(std::string bytes);
 
-/// The bytes of a file that is read as these texts: one to a line, in quotes where one would be cut
-/// or lose blanks without them. A text that holds a quote and what takes quotes can't be written;
-/// no file is read as one.
+/// Whether a file can be written that is read as this text. A text can't hold both a quote and what
+/// takes quotes; no record that was read does.
+bool CanWrite(std::string_view text);
+
+/// The bytes of a file that is read as these texts: one to a line, in quotes where it would be cut
+/// or lose blanks without them.
 std::string WriteRecords(const std::vector<Record>& records);
 
 } // namespace tumbledeep

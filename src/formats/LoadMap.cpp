@@ -31,7 +31,7 @@ void PutOnBoard(Board& board, const MapLine& line) {
     ThrowFault(line);
     board.DrawPicture(line.Which, index);
     pool.Show(index);
-    if (RowOf(line.Which).Tag != TagUse::None) pool.SetTag(index, line.Text);
+    if (HasTag(line.Which)) pool.SetTag(index, line.Text);
 }
 
 Board LoadMap(std::string bytes, std::uint32_t seed) {

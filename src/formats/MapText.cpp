@@ -47,11 +47,18 @@ MapLine ReadMapLine(const Record& record) {
     const std::string_view last = LastWord(text);
     // In a line with a tag the second number is the third word, in others the last word, whatever
     // stands in between; tests/formats/MapTextTest.cpp pins it.
-    const bool tagged = *kind != Kind::You && RowOf(*kind).Tag != TagUse::None;
+    const bool tagged = HasTag(*kind);
     line.Top = TakeNumber(line, record, second);
     line.Left =
         TakeNumber(line, record, tagged ? WordAt(text, first.size() + second.size() + 3) : last);
     if (tagged) line.Text = last;
+    return line;
+}
+
+std::string ObjectLine(Kind kind, float top, float left, std::string_view tag) {
+    std::string line(KindText(kind));
+    line.append(" ").append(FixedText(top)).append(" ").append(FixedText(left));
+    if (HasTag(kind)) line.append(" ").append(tag);
     return line;
 }
 

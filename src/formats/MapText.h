@@ -34,6 +34,9 @@ struct MapLine {
 /// that says nothing.
 MapLine ReadMapLine(const Record& record);
 
+/// The line that puts an object at a place, in twips; `tag` is "" for kinds that have none.
+std::string ObjectLine(Kind kind, float top, float left, std::string_view tag = {});
+
 /// The word that begins at a character, counted from 1, and ends before the next blank; "" when a
 /// blank stands there, or nothing.
 std::string_view WordAt(std::string_view text, std::size_t start);

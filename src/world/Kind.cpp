@@ -75,6 +75,8 @@ std::span<const KindRow, PoolCount> PoolKinds() { return Rows; }
 
 const KindRow& RowOf(Kind kind) { return Rows.at(static_cast<std::size_t>(kind) - FirstPool); }
 
+bool HasTag(Kind kind) { return kind != Kind::You && RowOf(kind).Tag != TagUse::None; }
+
 std::string_view KindText(Kind kind) {
     if (kind == Kind::Empty) return "";
     return kind == Kind::You ? "you" : RowOf(kind).Text;

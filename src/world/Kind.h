@@ -63,6 +63,9 @@ std::span<const KindRow, PoolCount> PoolKinds();
 /// The row of a kind. Throws std::out_of_range for a kind without a pool, Empty and You.
 const KindRow& RowOf(Kind kind);
 
+/// Whether a map's lines of the kind end in a tag. False for the player, who has no pool.
+bool HasTag(Kind kind);
+
 /// The kind's name as maps and the trace write it; "" for an empty cell, "factory" for a factory.
 std::string_view KindText(Kind kind);
 

@@ -17,7 +17,7 @@ class FirstStart(screen.GameTest):
         self.screen.answer("2", "Return")     # gradual centre
         self.assertEqual(["True", "2", "Default"],
                          [self.setting(key) for key in ("MOVE", "MODE", "MAPLIST")])
-        solution = (screen.LEVELS / "solutions" / (maps[0] + ".txt")).read_text()
+        solution = (screen.SOLUTIONS / (maps[0] + ".txt")).read_text()
         self.walk(line.split()[3] for line in solution.splitlines() if line.startswith("at "))
         self.screen.answer("Return")          # You won
         self.screen.answer("Return")          # the next level? Yes

@@ -11,7 +11,8 @@ import time
 import unittest
 
 PROGRAM = pathlib.Path(os.environ["TUMBLEDEEP"])
-LEVELS = pathlib.Path(os.environ["TUMBLEDEEP_LEVELS"])
+LEVELS = PROGRAM.parent  # the build puts the maps and lists beside the program
+SOLUTIONS = pathlib.Path(__file__).resolve().parents[2] / "levels" / "solutions"
 CELL = 24
 
 WHITE = (255, 255, 255)

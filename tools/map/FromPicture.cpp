@@ -1,8 +1,14 @@
-// Not there yet.
+// The command that makes a map of a text picture. Its format is formats/TextPicture.h's.
 #include "map/Commands.h"
+#include "map/FileWords.h"
+#include "map/MapSource.h"
 
 namespace tumbledeep {
 
-int FromPicture(Words /*words*/) { throw std::runtime_error("FromPicture is not there yet"); }
+int FromPicture(Words words) {
+    const FileWords files = ReadFileWords(words);
+    WriteTo(files.Out, WriteRecords(ReadMapSource(files.In).Lines));
+    return 0;
+}
 
 } // namespace tumbledeep

@@ -1,8 +1,15 @@
-// Not there yet.
+// The command that makes a text picture of a map. The format is formats/TextPicture.h's.
+#include "formats/TextPicture.h"
 #include "map/Commands.h"
+#include "map/FileWords.h"
+#include "map/MapSource.h"
 
 namespace tumbledeep {
 
-int ToPicture(Words /*words*/) { throw std::runtime_error("ToPicture is not there yet"); }
+int ToPicture(Words words) {
+    const FileWords files = ReadFileWords(words);
+    WriteTo(files.Out, WritePicture(files.In, ReadMapSource(files.In).Lines));
+    return 0;
+}
 
 } // namespace tumbledeep

@@ -1,0 +1,158 @@
+// The lines of a heading, one function to a sort of line: legend, title and comment, order, and
+// lines of the map as they stand.
+#include "formats/PictureHeading.h"
+
+#include "base/Number.h"
+#include "base/Text.h"
+#include "formats/MapText.h"
+#include "formats/TextPicture.h"
+#include "world/Pool.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tumbledeep {
+
+namespace {
+
+/// Between a mark and what it stands for.
+constexpr std::string_view Means = " = ";
+
+constexpr std::string_view Continued = "| ";
+
+/// Behind a key word, all that stands after the one blank.
+std::string_view Behind(std::string_view line, std::string_view word) {
+    return line.substr(std::min(line.size(), word.size() + 1));
+}
+
+class Reader {
+  public:
+    explicit Reader(const std::string& fileName) : name(fileName) {
+        for (const KindRow& row : PoolKinds()) {
+            heading.Orders[static_cast<std::size_t>(row.Which)] = DefaultOrder(row.Which);
+        }
+    }
+
+    void Take(const PictureLine& line) {
+        at = line.Line;
+        const std::string_view text = line.Text;
+        const std::string_view word = WordAt(text, 1);
+        if (IsMark(text.front()) && text.substr(1).starts_with(Means)) {
+            Mark(text.front(), text.substr(1 + Means.size()));
+        } else if (word == "title" || word == "rem") {
+            heading.Talk.push_back(MapRecord(line.Text, 1));
+        } else if (word == "order") {
+            Order(Behind(text, word));
+        } else if (word.starts_with('+')) {
+            Extra(word.substr(1), Behind(text, word), static_cast<int>(word.size()) + 2);
+        } else {
+            Fail("a heading has lines such as \"L = movingmineL U\", title, rem, order, + and "
+                 "board, not \"" +
+                 line.Text + "\"");
+        }
+    }
+
+    PictureHeading heading;
+
+    [[noreturn]] void Fail(const std::string& what) const { ThrowPictureFault(name, at, what); }
+
+  private:
+    void Mark(char mark, std::string_view meaning) {
+        if (!std::exchange(own[static_cast<std::size_t>(mark)], true)) {
+            heading.Marks.erase(mark);
+        } else {
+            Fail(std::string("the mark ") + mark + " has a meaning already");
+        }
+        MarkedCell cell;
+        while (true) {
+            const std::size_t comma = meaning.find(',');
+            cell.push_back(Meant(Trimmed(meaning.substr(0, comma))));
+            if (comma == std::string_view::npos) break;
+            meaning.remove_prefix(comma + 1);
+        }
+        heading.Marks.emplace(mark, std::move(cell));
+    }
+
+    MarkedObject Meant(std::string_view text) const {
+        const std::string_view word = WordAt(text, 1);
+        const std::string_view tag = Behind(text, word);
+        const auto kind = KindNamed(word);
+        if (!kind || *kind == Kind::Bang) {
+            Fail("no object of a map is called \"" + std::string(word) + "\"");
+        }
+        const bool factory = *kind == Kind::Factory;
+        if (HasTag(*kind) && !IsPlainTag(tag)) {
+            Fail(std::string(word) + (factory ? " needs one recipe, such as 5:roundrock"
+                                              : " needs one heading, U, D, L or R"));
+        }
+        if (!HasTag(*kind) && !tag.empty()) {
+            Fail("nothing can stand behind " + std::string(word));
+        }
+        return {*kind, std::string(tag)};
+    }
+
+    void Order(std::string_view text) {
+        const std::string_view word = WordAt(text, 1);
+        const std::string_view way = Behind(text, word);
+        const auto kind = KindNamed(word);
+        if (!kind || *kind == Kind::You || (way != "up" && way != "down")) {
+            Fail("an order reads \"order roundrock up\" or down");
+        }
+        heading.Orders[static_cast<std::size_t>(*kind)] =
+            way == "up" ? RowOrder::Up : RowOrder::Down;
+    }
+
+    void Extra(std::string_view number, std::string_view text, int column) {
+        std::optional<int> index;
+        if (!number.empty()) {
+            const auto read = ReadInteger(number);
+            if (!read || *read < 1 || *read >= Pool::Limit) {
+                Fail("+ is followed by a number from 1 to " + std::to_string(Pool::Limit - 1) +
+                     " or by a blank");
+            }
+            index = static_cast<int>(*read);
+        }
+        Record record = MapRecord(std::string(text), column);
+        const MapLine line = ReadMapLine(record);
+        if (line.Fault) Fail("\"" + line.Fault->Word + "\" is no number");
+        if (line.What == MapLine::Is::Object) {
+            heading.Extras.push_back({index, line.Which, std::move(record)});
+        } else if (index) {
+            Fail("only objects are numbered");
+        } else {
+            heading.Talk.push_back(std::move(record));
+        }
+    }
+
+    Record MapRecord(std::string text, int column) const {
+        if (!CanWrite(text)) Fail("a map's line can't hold both a quote and a comma");
+        return {std::move(text), at, column};
+    }
+
+    const std::string& name;
+    int at = 1;
+    std::array<bool, 128> own{}; ///< the marks that the heading has given a meaning
+};
+
+} // namespace
+
+PictureHeading TakeHeading(const std::string& name, std::deque<PictureLine>& lines) {
+    Reader reader(name);
+    while (!lines.empty()) {
+        PictureLine line = std::move(lines.front());
+        lines.pop_front();
+        if (Trimmed(line.Text) == "board") return std::move(reader.heading);
+        if (Trimmed(line.Text).empty()) continue;
+        for (; !lines.empty() && lines.front().Text.starts_with(Continued); lines.pop_front()) {
+            line.Text.append("\n").append(lines.front().Text.substr(Continued.size()));
+        }
+        reader.Take(line);
+    }
+    ThrowPictureFault(name, 1, "a picture has a line \"board\", and its rows stand below that");
+}
+
+void ThrowPictureFault(const std::string& name, int line, const std::string& what) {
+    throw PictureFault(name + ":" + std::to_string(line) + ": " + what);
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,149 @@
+// From a text picture to the lines of a map: the rows give objects by their marks, and the heading
+// may give single objects another turn.
+#include "base/Text.h"
+#include "formats/MapText.h"
+#include "formats/PictureHeading.h"
+#include "formats/TextPicture.h"
+#include "world/Cell.h"
+
+#include <algorithm>
+#include <functional>
+#include <unordered_map>
+
+namespace tumbledeep {
+
+namespace {
+
+/// Columns and rows that a map can draw.
+constexpr std::size_t MostCells = GridSize - 1;
+
+std::deque<PictureLine> LinesOf(std::string_view text) {
+    std::deque<PictureLine> lines;
+    if (text.starts_with(ByteOrderMark)) text.remove_prefix(ByteOrderMark.size());
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        std::string_view line = text.substr(0, end);
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        lines.push_back({std::string(line), static_cast<int>(lines.size()) + 1});
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
+/// Takes out of a kind's objects those that extra lines name too.
+void TakeNamed(std::vector<Record>& drawn, const std::vector<ExtraLine>& extras) {
+    if (extras.empty()) return;
+    std::unordered_map<std::string_view, int> named;
+    for (const ExtraLine& extra : extras) ++named[extra.Source.Text];
+    std::erase_if(drawn, [&named](const Record& record) {
+        const auto found = named.find(record.Text);
+        return found != named.end() && found->second-- > 0;
+    });
+}
+
+/// The objects of one kind: those that the rows show, and those that the heading gives.
+struct KindLines {
+    std::vector<Record> Drawn; ///< in the order of their turns
+    std::vector<ExtraLine> Extras;
+};
+
+class PictureReader {
+  public:
+    PictureReader(const std::string& fileName, const std::string& bytes) : name(fileName) {
+        std::deque<PictureLine> lines = LinesOf(bytes);
+        heading = TakeHeading(name, lines);
+        while (!lines.empty() && Trimmed(lines.back().Text).empty()) lines.pop_back();
+        if (lines.size() > MostCells) Fail(lines[MostCells].Line, "a map has 300 rows at most");
+        for (std::size_t row = 0; row < lines.size(); ++row) {
+            ReadRow(static_cast<int>(row), lines[row]);
+        }
+        for (const ExtraLine& extra : heading.Extras) Of(extra.Which).Extras.push_back(extra);
+    }
+
+    std::vector<Record> Map() {
+        std::vector<Record> map = std::move(heading.Talk);
+        for (std::size_t i = static_cast<std::size_t>(Kind::You); i < KindCount; ++i) {
+            // Rows have come downward, and stay in order from left to right.
+            if (heading.Orders[i] == RowOrder::Up) {
+                std::ranges::stable_sort(kinds[i].Drawn, std::greater(), &Record::Line);
+            }
+            Append(map, kinds[i]);
+        }
+        return map;
+    }
+
+  private:
+    [[noreturn]] void Fail(int line, const std::string& what) const {
+        ThrowPictureFault(name, line, what);
+    }
+
+    KindLines& Of(Kind kind) { return kinds[static_cast<std::size_t>(kind)]; }
+
+    void ReadRow(int row, const PictureLine& line) {
+        std::string_view cells = line.Text;
+        while (cells.ends_with(' ')) cells.remove_suffix(1);
+        if (cells.size() > MostCells) Fail(line.Line, "a map has 300 columns at most");
+        for (int col = 0; const char mark : cells) ReadCell(mark, col++, row, line.Line);
+    }
+
+    void ReadCell(char mark, int col, int row, int line) {
+        if (mark == ' ') return;
+        const auto meaning = heading.Marks.find(mark);
+        if (meaning == heading.Marks.end()) {
+            std::string what = "column " + std::to_string(col + 1) + ": ";
+            what += !IsMark(mark) ? "cells are blanks or printable ASCII characters, no tabs"
+                                  : std::string(1, mark) +
+                                        " has no meaning; give it one above the "
+                                        "board, such as \"" +
+                                        mark + " = movingmineL U\"";
+            Fail(line, what);
+        }
+        for (const MarkedObject& object : meaning->second) {
+            std::vector<Record>& drawn = Of(object.Which).Drawn;
+            if (object.Which == Kind::You && !drawn.empty()) {
+                Fail(line, "a second player; the first one stands in line " +
+                               std::to_string(drawn.front().Line));
+            }
+            drawn.push_back({ObjectLine(object.Which, static_cast<float>(row) * Pitch,
+                                        static_cast<float>(col) * Pitch, object.Tag),
+                             line, col + 1});
+        }
+    }
+
+    /// Adds a kind's lines in turn. An extra line that says what the rows show too is that object,
+    /// taken from its place in the row.
+    void Append(std::vector<Record>& map, KindLines& lines) const {
+        TakeNamed(lines.Drawn, lines.Extras);
+        const auto numbered = std::ranges::stable_partition(
+            lines.Extras, [](const ExtraLine& extra) { return !extra.Index; });
+        for (auto extra = lines.Extras.begin(); extra != numbered.begin(); ++extra) {
+            lines.Drawn.push_back(std::move(extra->Source));
+        }
+        std::ranges::stable_sort(numbered, {}, &ExtraLine::Index);
+        auto next = lines.Drawn.begin();
+        const auto last = lines.Drawn.end();
+        int index = 1;
+        for (const ExtraLine& extra : numbered) {
+            for (; index < extra.Index && next != last; ++index) map.push_back(std::move(*next++));
+            if (index++ != extra.Index) {
+                Fail(extra.Source.Line,
+                     "the number " + std::to_string(*extra.Index) +
+                         " is given twice, or there are not so many of the kind");
+            }
+            map.push_back(extra.Source);
+        }
+        map.insert(map.end(), next, last);
+    }
+
+    const std::string& name;
+    PictureHeading heading;
+    std::array<KindLines, KindCount> kinds;
+};
+
+} // namespace
+
+std::vector<Record> ReadPicture(const std::string& name, const std::string& bytes) {
+    return PictureReader(name, bytes).Map();
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,276 @@
+// From the lines of a map to a text picture: which objects the rows can show, with which marks, and
+// what the heading must say beside them so that every object keeps its turn.
+#include "base/Number.h"
+#include "formats/Legend.h"
+#include "formats/MapText.h"
+#include "formats/TextPicture.h"
+#include "world/Cell.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <optional>
+#include <utility>
+
+namespace tumbledeep {
+
+namespace {
+
+/// A cell of the rows, from 0.
+struct Place {
+    int Row;
+    int Col;
+    friend auto operator<=>(const Place&, const Place&) = default;
+};
+
+/// The place that a position in twips is drawn at; none between two cells and outside.
+std::optional<Place> PlaceOf(float top, float left) {
+    const auto index = [](float twips) -> int {
+        const float whole = twips / Pitch;
+        const bool drawn = whole >= 0 && whole < GridSize - 1 && !std::signbit(twips);
+        return drawn && whole == std::floor(whole) && whole * Pitch == twips
+                   ? static_cast<int>(whole)
+                   : -1;
+    };
+    const Place place{index(top), index(left)};
+    if (place.Row < 0 || place.Col < 0) return std::nullopt;
+    return place;
+}
+
+/// An object of the map.
+struct Item {
+    std::string Text; ///< its line
+    std::string Tag;
+    std::optional<Place> Where; ///< where the rows show it; none if they don't
+    bool Listed = false;        ///< the heading has a line for it
+};
+
+using Items = std::vector<Item>;
+
+/// The place of an object in a kind's order of turns.
+int TurnOf(Place place, RowOrder order) {
+    return (order == RowOrder::Down ? place.Row : -place.Row) * GridSize + place.Col;
+}
+
+/// The most items, by index, that the rows give in this order without one of the heading's lines:
+/// the longest rising subsequence of their turns.
+std::vector<std::size_t> InOrder(const Items& items, RowOrder order) {
+    constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
+    std::vector<int> turns;            // the least last turn of a sequence, by its length
+    std::vector<std::size_t> lasts;    // the item that has it
+    std::vector<std::size_t> previous; // by item
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        previous.push_back(none);
+        if (!items[i].Where || items[i].Listed) continue;
+        const int turn = TurnOf(*items[i].Where, order);
+        const auto at = std::ranges::lower_bound(turns, turn);
+        const auto length = static_cast<std::size_t>(at - turns.begin());
+        if (length == turns.size()) {
+            turns.push_back(turn);
+            lasts.push_back(i);
+        } else {
+            *at = turn;
+            lasts[length] = i;
+        }
+        if (length > 0) previous[i] = lasts[length - 1];
+    }
+    std::vector<std::size_t> found;
+    for (std::size_t i = lasts.empty() ? none : lasts.back(); i != none; i = previous[i]) {
+        found.push_back(i);
+    }
+    return found;
+}
+
+/// Gives every distinct content of a cell a mark.
+class MarkMaker {
+  public:
+    MarkMaker() {
+        for (const auto& [mark, cell] : DefaultLegend()) {
+            marks.emplace(cell, mark);
+            used += mark;
+        }
+    }
+
+    /// The mark of a cell; none when all marks are used up.
+    std::optional<char> MarkOf(const MarkedCell& cell) {
+        const auto known = marks.find(cell);
+        if (known != marks.end()) return known->second;
+        const std::string wanted = Preferred(cell);
+        const std::size_t free = wanted.find_first_not_of(used);
+        if (free == std::string::npos) return std::nullopt;
+        marks.emplace(cell, wanted[free]);
+        used += wanted[free];
+        made.emplace(wanted[free], cell);
+        return wanted[free];
+    }
+
+    const Legend& Made() const { return made; }
+
+  private:
+    /// All marks in the order in which a cell takes them, if they are free.
+    static std::string Preferred(const MarkedCell& cell) {
+        std::string wanted;
+        if (cell.size() > 1) wanted = "ABCDEGHIJKMNSUVWXYZ";
+        if (cell.front().Which != Kind::Factory) wanted += "123456789";
+        for (char c = 'a'; c <= 'z'; ++c) wanted += c;
+        for (char c = ' '; c <= '~'; ++c) {
+            if (IsMark(c)) wanted += c;
+        }
+        return wanted;
+    }
+
+    std::map<MarkedCell, char> marks;
+    Legend made;
+    std::string used;
+};
+
+/// A text of the map as a line of a heading: what stands behind a line end goes on below.
+std::string HeadingText(std::string_view text) {
+    std::string line;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text.substr(i, 2) == "\r\n") continue;
+        const bool ends = text[i] == '\n' || text[i] == '\r';
+        ends ? line.append("\n| ") : line.append(1, text[i]);
+    }
+    return line += '\n';
+}
+
+class PictureWriter {
+  public:
+    PictureWriter(const std::string& name, const std::vector<Record>& map) {
+        for (const Record& record : map) Take(name, record);
+        Items& players = Of(Kind::You);
+        if (players.size() > 1) players.erase(players.begin(), players.end() - 1);
+        for (const Kind kind : Kinds()) PlaceItems(kind);
+        MarkCells();
+    }
+
+    std::string Text() {
+        std::string turns;
+        for (const Kind kind : Kinds()) turns += TurnsOf(kind);
+        std::string legend;
+        for (const auto& [mark, cell] : marks.Made()) legend += LegendLine(mark, cell);
+        std::string text;
+        for (const std::string& part : {talk, legend, turns}) {
+            if (!part.empty()) text.append(part) += '\n';
+        }
+        return text + "board\n" + Rows();
+    }
+
+  private:
+    static std::array<Kind, KindCount - 1> Kinds() {
+        std::array<Kind, KindCount - 1> kinds{Kind::You};
+        std::ranges::transform(PoolKinds(), kinds.begin() + 1, &KindRow::Which);
+        return kinds;
+    }
+
+    Items& Of(Kind kind) { return items[static_cast<std::size_t>(kind)]; }
+
+    void Take(const std::string& name, const Record& record) {
+        const MapLine line = ReadMapLine(record);
+        if (line.Fault) {
+            throw PictureFault(name + ":" + std::to_string(line.Line) + ": \"" + line.Fault->Word +
+                               "\" is no number, and the map can't be loaded");
+        }
+        if (line.What == MapLine::Is::Object) {
+            Of(line.Which)
+                .push_back({ObjectLine(line.Which, *line.Top, *line.Left, line.Text), line.Text,
+                            PlaceOf(*line.Top, *line.Left)});
+        } else if (line.What == MapLine::Is::Title || WordAt(record.Text, 1) == "rem") {
+            talk += HeadingText(record.Text);
+        } else if (!record.Text.empty()) {
+            talk += "+ " + HeadingText(record.Text);
+        }
+    }
+
+    /// Puts a kind's objects into the cells, one of the kind to a cell. The others are not shown;
+    /// where one of these is the same as what is shown, both need a line.
+    void PlaceItems(Kind kind) {
+        std::map<Place, Item*> shown;
+        for (Item& item : Of(kind)) {
+            if (HasTag(kind) && !IsPlainTag(item.Tag)) item.Where.reset();
+            if (!item.Where) continue;
+            const auto [there, isFirst] = shown.emplace(*item.Where, &item);
+            if (isFirst) continue;
+            if (there->second->Text == item.Text) there->second->Listed = true;
+            item.Where.reset();
+        }
+        for (const auto& [place, item] : shown) cells[place].push_back({kind, item->Tag});
+    }
+
+    /// Finds the marks. Cells for which none is left are not shown.
+    void MarkCells() {
+        std::map<Place, char> found;
+        for (const auto& [place, cell] : cells) {
+            if (const auto mark = marks.MarkOf(cell)) found.emplace(place, *mark);
+        }
+        for (Items& kind : items) {
+            for (Item& item : kind) {
+                if (item.Where && !found.contains(*item.Where)) item.Where.reset();
+            }
+        }
+        rows = std::move(found);
+    }
+
+    /// The heading's lines about the turns of a kind: how its rows are taken, if in another way
+    /// than always, and the objects that the rows do not show in their turn.
+    std::string TurnsOf(Kind kind) {
+        Items& all = Of(kind);
+        const RowOrder usual = DefaultOrder(kind);
+        const RowOrder other = usual == RowOrder::Down ? RowOrder::Up : RowOrder::Down;
+        std::vector<std::size_t> kept = InOrder(all, usual);
+        const std::vector<std::size_t> otherKept = InOrder(all, other);
+        std::string lines;
+        if (otherKept.size() > kept.size()) {
+            kept = otherKept;
+            lines.append("order ").append(KindText(kind));
+            lines += other == RowOrder::Up ? " up\n" : " down\n";
+        }
+        for (Item& item : all) item.Listed = true;
+        for (const std::size_t i : kept) all[i].Listed = false;
+        const std::size_t behind = kept.empty() ? 0 : kept.front() + 1;
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            if (!all[i].Listed) continue;
+            lines += i < behind ? "+" + std::to_string(i + 1) + " " : "+ ";
+            lines += HeadingText(all[i].Text);
+        }
+        return lines;
+    }
+
+    static std::string LegendLine(char mark, const MarkedCell& cell) {
+        std::string line{mark};
+        line += " = ";
+        for (const MarkedObject& object : cell) {
+            if (&object != &cell.front()) line += ", ";
+            line += KindText(object.Which);
+            if (!object.Tag.empty()) line.append(" ").append(object.Tag);
+        }
+        return line += '\n';
+    }
+
+    std::string Rows() const {
+        std::string text;
+        Place here{0, 0};
+        for (const auto& [place, mark] : rows) {
+            for (; here.Row < place.Row; ++here.Row, here.Col = 0) text += '\n';
+            text.append(static_cast<std::size_t>(place.Col - here.Col), ' ') += mark;
+            here.Col = place.Col + 1;
+        }
+        return text += '\n';
+    }
+
+    std::string talk; ///< titles, comments, and what the game passes over
+    std::array<Items, KindCount> items;
+    std::map<Place, MarkedCell> cells;
+    std::map<Place, char> rows; ///< the marks
+    MarkMaker marks;
+};
+
+} // namespace
+
+std::string WritePicture(const std::string& name, const std::vector<Record>& map) {
+    return PictureWriter(name, map).Text();
+}
+
+} // namespace tumbledeep
