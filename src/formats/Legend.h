@@ -7,6 +7,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 namespace tumbledeep {
@@ -15,7 +16,9 @@ namespace tumbledeep {
 struct MarkedObject {
     Kind Which;
     std::string Tag; ///< "" for kinds that have none
-    friend auto operator<=>(const MarkedObject&, const MarkedObject&) = default;
+    friend bool operator<(const MarkedObject& a, const MarkedObject& b) {
+        return std::tie(a.Which, a.Tag) < std::tie(b.Which, b.Tag);
+    }
 };
 
 /// All that stands on one cell.

@@ -58,11 +58,10 @@ class Reader {
 
   private:
     void Mark(char mark, std::string_view meaning) {
-        if (!std::exchange(own[static_cast<std::size_t>(mark)], true)) {
-            heading.Marks.erase(mark);
-        } else {
+        if (own.find(mark) != std::string::npos) {
             Fail(std::string("the mark ") + mark + " has a meaning already");
         }
+        own += mark;
         MarkedCell cell;
         while (true) {
             const std::size_t comma = meaning.find(',');
@@ -70,7 +69,7 @@ class Reader {
             if (comma == std::string_view::npos) break;
             meaning.remove_prefix(comma + 1);
         }
-        heading.Marks.emplace(mark, std::move(cell));
+        heading.Marks.insert_or_assign(mark, std::move(cell));
     }
 
     MarkedObject Meant(std::string_view text) const {
@@ -131,7 +130,7 @@ class Reader {
 
     const std::string& name;
     int at = 1;
-    std::array<bool, 128> own{}; ///< the marks that the heading has given a meaning
+    std::string own; ///< the marks that the heading has given a meaning
 };
 
 } // namespace

@@ -77,6 +77,24 @@ class PictureReader {
         ThrowPictureFault(name, line, what);
     }
 
+    [[noreturn]] void FailMark(char mark, int col, int line) const {
+        std::string what = "column " + std::to_string(col + 1) + ": ";
+        if (IsMark(mark)) {
+            what += mark;
+            what += " has no meaning; give it one above the board, such as \"";
+            what += mark;
+            what += " = movingmineL U\"";
+        } else {
+            what += "cells are blanks or printable ASCII characters, no tabs";
+        }
+        Fail(line, what);
+    }
+
+    [[noreturn]] void FailTurn(const ExtraLine& extra) const {
+        Fail(extra.Source.Line, "the number " + std::to_string(extra.Index.value_or(0)) +
+                                    " is given twice, or there are not so many of the kind");
+    }
+
     KindLines& Of(Kind kind) { return kinds[static_cast<std::size_t>(kind)]; }
 
     void ReadRow(int row, const PictureLine& line) {
@@ -89,15 +107,7 @@ class PictureReader {
     void ReadCell(char mark, int col, int row, int line) {
         if (mark == ' ') return;
         const auto meaning = heading.Marks.find(mark);
-        if (meaning == heading.Marks.end()) {
-            std::string what = "column " + std::to_string(col + 1) + ": ";
-            what += !IsMark(mark) ? "cells are blanks or printable ASCII characters, no tabs"
-                                  : std::string(1, mark) +
-                                        " has no meaning; give it one above the "
-                                        "board, such as \"" +
-                                        mark + " = movingmineL U\"";
-            Fail(line, what);
-        }
+        if (meaning == heading.Marks.end()) FailMark(mark, col, line);
         for (const MarkedObject& object : meaning->second) {
             std::vector<Record>& drawn = Of(object.Which).Drawn;
             if (object.Which == Kind::You && !drawn.empty()) {
@@ -114,23 +124,20 @@ class PictureReader {
     /// taken from its place in the row.
     void Append(std::vector<Record>& map, KindLines& lines) const {
         TakeNamed(lines.Drawn, lines.Extras);
-        const auto numbered = std::ranges::stable_partition(
-            lines.Extras, [](const ExtraLine& extra) { return !extra.Index; });
-        for (auto extra = lines.Extras.begin(); extra != numbered.begin(); ++extra) {
+        std::vector<ExtraLine>& extras = lines.Extras;
+        std::ranges::stable_sort(extras, {}, &ExtraLine::Index);
+        const auto numbered = std::ranges::find_if(
+            extras, [](const ExtraLine& extra) { return extra.Index.has_value(); });
+        for (auto extra = extras.begin(); extra != numbered; ++extra) {
             lines.Drawn.push_back(std::move(extra->Source));
         }
-        std::ranges::stable_sort(numbered, {}, &ExtraLine::Index);
         auto next = lines.Drawn.begin();
         const auto last = lines.Drawn.end();
         int index = 1;
-        for (const ExtraLine& extra : numbered) {
-            for (; index < extra.Index && next != last; ++index) map.push_back(std::move(*next++));
-            if (index++ != extra.Index) {
-                Fail(extra.Source.Line,
-                     "the number " + std::to_string(*extra.Index) +
-                         " is given twice, or there are not so many of the kind");
-            }
-            map.push_back(extra.Source);
+        for (auto extra = numbered; extra != extras.end(); ++extra, ++index) {
+            for (; index < extra->Index && next != last; ++index) map.push_back(std::move(*next++));
+            if (index != extra->Index) FailTurn(*extra);
+            map.push_back(std::move(extra->Source));
         }
         map.insert(map.end(), next, last);
     }

@@ -21,7 +21,9 @@ namespace {
 struct Place {
     int Row;
     int Col;
-    friend auto operator<=>(const Place&, const Place&) = default;
+    friend bool operator<(const Place& a, const Place& b) {
+        return std::tie(a.Row, a.Col) < std::tie(b.Row, b.Col);
+    }
 };
 
 /// The place that a position in twips is drawn at; none between two cells and outside.
