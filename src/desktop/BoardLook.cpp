@@ -1,9 +1,8 @@
-// How the sprites are compared with those last seen, a chunk of a pool at a time, and the order of
-// painting.
+// How the sprites are compared with those last seen, a chunk of a pool at a time. A layer is a
+// place in the order of painting.
 #include "desktop/BoardLook.h"
 
 #include "desktop/Places.h"
-#include "pictures/Catalogue.h"
 
 #include <algorithm>
 
@@ -11,23 +10,7 @@ namespace tumbledeep {
 
 namespace {
 
-static_assert(BoardLook::LayerCount <= MostLayers && Pool::Limit <= 1 << IndexBits);
-
-using Layers = std::array<Kind, BoardLook::LayerCount>;
-
-/// The player is painted between shapes and pictures.
-const Layers& PaintedKinds() {
-    static const Layers kinds = [] {
-        Layers all{};
-        const auto& pools = PaintOrder();
-        const auto pictures = std::ranges::find_if_not(pools, IsSurface);
-        auto next = std::copy(pools.begin(), pictures, all.begin());
-        *next++ = Kind::You;
-        std::copy(pictures, pools.end(), next);
-        return all;
-    }();
-    return kinds;
-}
+static_assert(PaintedCount <= MostLayers && Pool::Limit <= 1 << IndexBits);
 
 QPoint IndexedCorner(const Sprite& sprite) { return SpriteCorner(sprite, 1); }
 
@@ -43,8 +26,8 @@ QRect CornersOf(const QRect& part, int scale) {
 } // namespace
 
 void BoardLook::Update(Board& board, int scale, ChangedTiles& changes) {
-    for (std::size_t layer = 0; layer < LayerCount; ++layer) {
-        const Kind kind = PaintedKinds()[layer];
+    for (std::size_t layer = 0; layer < PaintedCount; ++layer) {
+        const Kind kind = PaintOrder()[layer];
         if (kind == Kind::You) {
             layers[layer].resize(1);
             Take(layer, 0, board.You, scale, changes);
@@ -85,7 +68,7 @@ std::vector<BoardLook::Shown> BoardLook::Within(const QRect& part, int scale) co
         const Sprite& sprite = layers[layer][IndexOf(number)];
         const QRect place = SpriteRect(sprite, scale);
         if (place.intersects(part)) {
-            found.push_back({PaintedKinds()[layer], sprite.Look, place.topLeft()});
+            found.push_back({PaintOrder()[layer], sprite.Look, place.topLeft()});
         }
     }
     return found;

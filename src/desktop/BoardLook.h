@@ -5,6 +5,7 @@
 
 #include "desktop/ChangedTiles.h"
 #include "desktop/SpriteIndex.h"
+#include "pictures/Catalogue.h"
 #include "windows/frmDocument.h"
 
 #include <array>
@@ -17,9 +18,6 @@ inline bool IsSurface(Kind kind) { return kind == Kind::You || RowOf(kind).IsSha
 
 class BoardLook {
   public:
-    /// The kinds that are painted, by layers from the lowest.
-    static constexpr std::size_t LayerCount = PoolCount + 1;
-
     /// Something shown on the board, a sprite or the player.
     struct Shown {
         Kind Which;
@@ -36,7 +34,7 @@ class BoardLook {
   private:
     void Take(std::size_t layer, int i, const Sprite& now, int scale, ChangedTiles& changes);
 
-    std::array<std::vector<Sprite>, LayerCount> layers;
+    std::array<std::vector<Sprite>, PaintedCount> layers; ///< as in PaintOrder
     SpriteIndex byPlace; ///< of those that are visible; in pixels of the game, for every scale
 };
 

@@ -5,6 +5,7 @@
 #include "base/Number.h"
 #include "formats/ProgramPath.h"
 #include "host/HostFiles.h"
+#include "pictures/DevicePixels.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -55,7 +56,7 @@ Options ReadOptions(std::span<char* const> words) {
                                          ": there is no such directory");
             }
         } else if (word == "--scale") {
-            options.Scale = WholeFrom(word, value(), 1, 16);
+            options.Scale = WholeFrom(word, value(), 1, LargestScale);
         } else if (word == "--shown-pipe") {
             options.ShownPipe = WholeFrom(word, value(), 0, 1 << 20);
         } else if (word.starts_with("--")) {

@@ -1,24 +1,12 @@
-// How twips are rounded to device pixels, the same way wherever a thing lies.
+// Places and sizes in twips become rectangles of the toolkit.
 #include "desktop/Places.h"
 
 #include "pictures/Bitmap.h"
+#include "pictures/DevicePixels.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace tumbledeep {
-
-namespace {
-
-/// Keeps the arithmetic of rectangles far from its limits.
-constexpr float FarAway = 10'000'000;
-
-} // namespace
-
-int ToDevice(float twips, int scale) {
-    const float device = std::floor(twips / TwipsPerPixel * static_cast<float>(scale) + 0.5F);
-    return static_cast<int>(std::clamp(device, -FarAway, FarAway));
-}
 
 QPoint SpriteCorner(const Sprite& sprite, int scale) {
     return {ToDevice(sprite.Left, scale), ToDevice(sprite.Top, scale)};

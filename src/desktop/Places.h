@@ -1,5 +1,5 @@
-// Where things lie on the screen: twips become whole device pixels. `scale` is device pixels to a
-// pixel of the game throughout. What lies there is BoardLook's.
+// Where things lie on the screen, in whole device pixels. `scale` is device pixels to a pixel of
+// the game throughout. What lies there is BoardLook's.
 #pragma once
 
 #include "windows/frmDocument.h"
@@ -8,9 +8,6 @@
 #include <QRect>
 
 namespace tumbledeep {
-
-/// Twips to whole device pixels, held to what lies far beyond any screen.
-int ToDevice(float twips, int scale);
 
 /// The upper left corner of a sprite on the board.
 QPoint SpriteCorner(const Sprite& sprite, int scale);

@@ -35,14 +35,13 @@ void Timing::TickEnds(std::int64_t step) {
 }
 
 std::string Timing::Line(std::int64_t ticks) const {
-    const auto milliseconds = [](Nanoseconds time) { return static_cast<double>(time) / 1e6; };
     const double mean =
         static_cast<double>(sum) / 1e3 / static_cast<double>(std::max<std::int64_t>(1, count));
     std::array<char, 200> line{};
     std::snprintf(line.data(), line.size(),
                   "load %.3f worst %.3f (tick %lld) second %.3f mean %.3f over %lld of %lld",
-                  milliseconds(load), milliseconds(worst), static_cast<long long>(worstStep),
-                  milliseconds(second), mean, static_cast<long long>(count),
+                  Milliseconds(load), Milliseconds(worst), static_cast<long long>(worstStep),
+                  Milliseconds(second), mean, static_cast<long long>(count),
                   static_cast<long long>(ticks));
     return line.data();
 }

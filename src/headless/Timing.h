@@ -21,9 +21,16 @@ class Timing {
     /// first tick all that is told of ticks is 0.
     std::string Line(std::int64_t ticks) const;
 
+    /// In milliseconds: the start-up, and the longest tick.
+    double LoadTime() const { return Milliseconds(load); }
+    double WorstTime() const { return Milliseconds(worst); }
+    /// The step of the longest tick, 0 before the first.
+    std::int64_t WorstStep() const { return worstStep; }
+
   private:
     using Nanoseconds = std::int64_t;
     static Nanoseconds Now();
+    static double Milliseconds(Nanoseconds time) { return static_cast<double>(time) / 1e6; }
 
     Nanoseconds begun = Now();
     Nanoseconds load = 0;

@@ -35,13 +35,17 @@ void DrawStores(Pictures& pictures) {
     }
 }
 
-/// Shapes lie at the bottom, then factories, over which everything else passes.
-std::array<Kind, PoolCount> OrderOfPainting() {
-    std::array<Kind, PoolCount> order{};
-    std::ranges::transform(PoolKinds(), order.begin(), &KindRow::Which);
-    std::ranges::stable_sort(order, {}, [](Kind kind) {
-        return RowOf(kind).IsShape ? 0 : kind == Kind::Factory ? 1 : 2;
-    });
+/// Shapes lie at the bottom, then the player and factories, over which everything else passes.
+int LayerOf(Kind kind) {
+    if (kind == Kind::You) return 1;
+    if (RowOf(kind).IsShape) return 0;
+    return kind == Kind::Factory ? 2 : 3;
+}
+
+std::array<Kind, PaintedCount> OrderOfPainting() {
+    std::array<Kind, PaintedCount> order{Kind::You};
+    std::ranges::transform(PoolKinds(), order.begin() + 1, &KindRow::Which);
+    std::ranges::stable_sort(order, {}, LayerOf);
     return order;
 }
 
@@ -62,8 +66,8 @@ Pictures DrawAll() {
 
 } // namespace
 
-const std::array<Kind, PoolCount>& PaintOrder() {
-    static const std::array<Kind, PoolCount> order = OrderOfPainting();
+const std::array<Kind, PaintedCount>& PaintOrder() {
+    static const std::array<Kind, PaintedCount> order = OrderOfPainting();
     return order;
 }
 

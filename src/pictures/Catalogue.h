@@ -14,9 +14,11 @@ namespace tumbledeep {
 /// All pictures by number. `Picture::None` stays white and is never shown.
 const std::array<Bitmap, PictureCount>& Catalogue();
 
-/// The kinds that have sprites in the order of painting: shapes, then pictures. The player is
-/// painted in between.
-const std::array<Kind, PoolCount>& PaintOrder();
+/// The kinds that have sprites, and the player: all that is painted on a board.
+inline constexpr std::size_t PaintedCount = PoolCount + 1;
+
+/// These in the order of painting: shapes, the player, pictures.
+const std::array<Kind, PaintedCount>& PaintOrder();
 
 /// What is painted on the board's own surface, beneath all pictures.
 enum class Shape : std::uint8_t { You, Dirt, HardDirt };

@@ -37,8 +37,6 @@ class frmDocument : public Board {
     ViewMode AutoMoveMode = ViewMode::None;    ///< counts only while that is so
     bool ViewMovesX = false;                   ///< mode 1 may shift the board left and right
     bool ViewMovesY = false;                   ///< mode 1 may shift it up and down
-    float MapBottom = 0;   ///< lower edge of the lowest visible wall or dirt, in twips
-    double MapRight = 0;   ///< right edge likewise, a whole number of any size
     std::string LevelName; ///< of a map that is won, without its extension; "" before
 
     // The clock and the keys.
@@ -98,9 +96,6 @@ class frmDocument : public Board {
     // A tick that the window does not see would leave it behind.
     using Board::Period;
     using Board::Tick;
-
-    /// Sets `MapRight` and `MapBottom`.
-    void MeasureMap();
 };
 
 } // namespace tumbledeep

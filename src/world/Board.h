@@ -81,6 +81,12 @@ struct Timer {
     friend bool operator==(const Timer&, const Timer&) = default;
 };
 
+/// How far a map's walls and dirt reach, in twips; 0 without any. The board's window is that large.
+struct MapEdges {
+    float MapRight = 0; ///< a whole number of any size
+    float MapBottom = 0;
+};
+
 class Board {
   public:
     /// A board with nothing but the templates, its clock running. LoadMap in formats/ makes one
@@ -125,6 +131,8 @@ class Board {
     void YouStart();
     /// Gives the mines the pictures of their headings, and sets `GemTotal`.
     void ResetArea();
+    /// The lower edge of the lowest visible wall or dirt, and the right edge likewise.
+    MapEdges MeasureMap() const;
     /// Fills `Area` anew from the sprites, makes the player ready and alive, and seeds the random
     /// numbers again.
     void ResetStart(std::uint32_t seed);

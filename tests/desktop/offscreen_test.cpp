@@ -5,6 +5,7 @@
 #include "desktop/GameWindow.h"
 #include "desktop/Places.h"
 #include "pictures/Catalogue.h"
+#include "pictures/DevicePixels.h"
 
 #include <gtest/gtest.h>
 
@@ -61,8 +62,11 @@ class Offscreen : public testing::Test {
                 painter.drawImage(place.topLeft() + corner, images.Of(kind, sprite.Look));
         };
         for (const Kind kind : PaintOrder()) {
-            if (kind == Kind::Factory) paint(Kind::You, board.You);
-            for (const Sprite& sprite : board.Pools[kind]) paint(kind, sprite);
+            if (kind == Kind::You) {
+                paint(kind, board.You);
+            } else {
+                for (const Sprite& sprite : board.Pools[kind]) paint(kind, sprite);
+            }
         }
         return image;
     }

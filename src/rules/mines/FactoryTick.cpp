@@ -1,38 +1,22 @@
 // One turn for each factory: it makes an object by its recipe, the text of its tag, when it has
 // rested long enough and its cell is free. How the object comes into play is SpawnObject's.
+#include "rules/mines/Recipe.h"
 #include "world/Board.h"
 
 namespace tumbledeep {
 
 namespace {
 
-/// What a factory makes, and for how many calls it rests in between.
-struct Recipe {
-    int Rest;
-    std::string_view Made;
-};
-
-/// A recipe such as "5:gem1type": a digit for the rest, any one character, the kind. None for a
-/// text that begins otherwise.
-std::optional<Recipe> ReadRecipe(std::string_view text) {
-    constexpr std::size_t kindStart = 2;
-    if (text.size() < kindStart || text[0] < '0' || text[0] > '9') return std::nullopt;
-    return Recipe{text[0] - '0', text.substr(kindStart)};
-}
-
-bool CanBeMade(Kind kind) { return kind != Kind::You && kind != Kind::Factory; }
-
 /// A turn with the factory's cell free.
 void Work(Board& board, int factory, std::int16_t& counter) {
     const Pool& factories = board.Pools[Kind::Factory];
     const auto recipe = ReadRecipe(factories.TagText(factory));
     if (!recipe || recipe->Rest >= counter) return;
-    // A kind that nobody knows makes nothing, but the factory rests as if it had.
+    // With a kind that can't be made the factory rests as if it had made one.
     counter = 0;
-    const auto made = KindNamed(recipe->Made);
-    if (!made || !CanBeMade(*made)) return;
+    if (!recipe->Made) return;
     const Sprite& sprite = factories[factory];
-    board.SpawnObject(*made, sprite.Left, sprite.Top, Heading::Down);
+    board.SpawnObject(*recipe->Made, sprite.Left, sprite.Top, Heading::Down);
 }
 
 } // namespace

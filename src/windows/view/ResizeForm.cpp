@@ -28,25 +28,10 @@ void LayAtEdge(float parentSize, float you, float boardSize, float atFarEdge, fl
 
 } // namespace
 
-void frmDocument::MeasureMap() {
-    MapRight = 0;
-    MapBottom = 0;
-    // Only walls and dirt count: an object of another kind beyond them lies outside the window.
-    for (const Kind kind : {Kind::HardDirt, Kind::Dirt}) {
-        for (const int index : Pools[kind].InTurn()) {
-            const Sprite& sprite = Pools[kind][index];
-            const float bottom = SpriteSize + sprite.Top;
-            const float right = SpriteSize + sprite.Left;
-            if (bottom > MapBottom) MapBottom = bottom;
-            if (right > MapRight) MapRight = RoundToEven(right);
-        }
-    }
-}
-
 void frmDocument::ResizeForm() {
-    MeasureMap();
-    Form.Height = MapBottom;
-    Form.Width = static_cast<float>(MapRight);
+    const MapEdges edges = MeasureMap();
+    Form.Height = edges.MapBottom;
+    Form.Width = edges.MapRight;
     const Window& parent = Parent.Form;
     if (parent.Height - Frame > Form.Height) {
         ViewMovesY = false;
