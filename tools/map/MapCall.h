@@ -1,0 +1,28 @@
+// The words behind a command that is about one map: the map and the options that the command knows.
+// What they bring about is the command's.
+#pragma once
+
+#include "map/Commands.h"
+
+#include <initializer_list>
+#include <optional>
+#include <string>
+
+namespace tumbledeep {
+
+/// The random numbers of maps that are drawn and studied: the same at each call.
+inline constexpr std::uint32_t ToolSeed = 1;
+
+struct MapCall {
+    std::string Map;
+    std::string Output;       ///< behind -o; "" without
+    std::optional<int> Scale; ///< behind --scale, from 1 to LargestScale
+    bool Json = false;        ///< --json
+};
+
+/// Reads the words; `known` are the options of the command: "-o", "--scale", "--json". The map's
+/// name may begin with "-" if it is longer than an option, and with anything behind the word "--".
+/// Throws CallFault for what does not fit.
+MapCall ReadMapCall(Words words, std::initializer_list<std::string_view> known);
+
+} // namespace tumbledeep
