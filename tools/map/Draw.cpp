@@ -1,23 +1,48 @@
 // Shows a map as it stands at its start: in the terminal by the characters of a text picture, in a
 // file by the game's own drawings.
+#include "formats/MapText.h"
 #include "formats/TextPicture.h"
 #include "map/BoardImage.h"
 #include "map/Commands.h"
 #include "map/LoadSource.h"
 #include "map/MapCall.h"
 
+#include <cmath>
 #include <iostream>
+#include <sstream>
 
 namespace tumbledeep {
 
 namespace {
 
-Image ImageOf(const MapSource& source, int scale) {
-    const Board board = LoadSource(source, ToolSeed);
+Image ImageOf(const std::string& name, const Board& board, int scale) {
     try {
         return DrawBoard(board, scale);
     } catch (const std::runtime_error& fault) {
-        throw std::runtime_error(source.Name + ": " + fault.what());
+        throw std::runtime_error(name + ": " + fault.what());
+    }
+}
+
+/// Whether a line of a text picture's heading is only about turns: an order of rows, or an object
+/// that the rows show too, or another like it in the same cell.
+bool IsAboutTurns(const std::string& line) {
+    if (line.starts_with("order ")) return true;
+    if (!line.starts_with('+')) return false;
+    const MapLine object = ReadMapLine({line.substr(line.find(' ') + 1)});
+    const auto isOnGrid = [](float twips) { return twips >= 0 && std::fmod(twips, Pitch) == 0; };
+    return object.Top && object.Left && isOnGrid(*object.Top) && isOnGrid(*object.Left);
+}
+
+/// The text picture without what only matters for turns.
+void PrintPicture(const std::string& picture) {
+    std::istringstream lines(picture);
+    bool inHeading = true;
+    bool wasEmpty = true;
+    for (std::string line; std::getline(lines, line);) {
+        if (line == "board") inHeading = false;
+        if (inHeading && (IsAboutTurns(line) || (line.empty() && wasEmpty))) continue;
+        std::cout << line << '\n';
+        wasEmpty = line.empty();
     }
 }
 
@@ -27,10 +52,11 @@ int Draw(Words words) {
     const MapCall call = ReadMapCall(words, {"-o", "--scale"});
     if (call.Scale && call.Output.empty()) throw CallFault("--scale needs -o");
     const MapSource source = ReadMapSource(call.Map);
+    const Board board = LoadSource(source, ToolSeed);
     if (call.Output.empty()) {
-        std::cout << WritePicture(source.Name, source.Lines);
+        PrintPicture(WritePicture(source.Name, source.Lines));
     } else {
-        WritePng(ImageOf(source, call.Scale.value_or(1)), call.Output);
+        WritePng(ImageOf(source.Name, board, call.Scale.value_or(1)), call.Output);
     }
     return 0;
 }

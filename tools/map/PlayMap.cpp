@@ -1,8 +1,40 @@
-// Not there yet.
+// Starts the game that lies beside this program on one map, in a folder of its own, so that no
+// settings of the player's change.
 #include "map/Commands.h"
+#include "map/GameRun.h"
+#include "map/MapCall.h"
+#include "map/MapSource.h"
+#include "map/PlayFolder.h"
+
+#include <filesystem>
 
 namespace tumbledeep {
 
-int PlayMap(Words /*words*/) { throw std::runtime_error("PlayMap is not there yet"); }
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path GameFolder() {
+    fs::path folder = fs::read_symlink("/proc/self/exe").parent_path();
+    if (fs::is_regular_file(folder / "tumbledeep")) return folder;
+    throw std::runtime_error((folder / "tumbledeep").string() +
+                             ": the game has to lie beside tumbledeep-map, and is not there");
+}
+
+} // namespace
+
+int PlayMap(Words words) {
+    const MapCall call = ReadMapCall(words, {"--scale"});
+    const fs::path gameFolder = GameFolder();
+    const MapSource map = ReadMapSource(call.Map);
+    const HeldSignals signals;
+    const PlayFolder folder;
+    const std::string name = folder.Fill(map, gameFolder);
+    std::vector<std::string> game{gameFolder / "tumbledeep", "--dir", folder.Path};
+    if (call.Scale) game.insert(game.end(), {"--scale", std::to_string(*call.Scale)});
+    // In quotes, since it may begin as an option does.
+    game.push_back('"' + name + '"');
+    return RunGameToItsEnd(game, signals);
+}
 
 } // namespace tumbledeep
