@@ -1,15 +1,14 @@
 // From the lines of a map to a text picture: which objects the rows can show, with which marks, and
 // what the heading must say beside them so that every object keeps its turn.
-#include "base/Number.h"
-#include "formats/Legend.h"
+#include "formats/LongestRising.h"
 #include "formats/MapText.h"
+#include "formats/MarkMaker.h"
 #include "formats/TextPicture.h"
 #include "world/Cell.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <optional>
 #include <utility>
 
@@ -55,77 +54,16 @@ int TurnOf(Place place, RowOrder order) {
     return (order == RowOrder::Down ? place.Row : -place.Row) * GridSize + place.Col;
 }
 
-/// The most items, by index, that the rows give in this order without one of the heading's lines:
-/// the longest rising subsequence of their turns.
+/// The items, by index, that the rows give in this order without one of the heading's lines; as
+/// many as can be.
 std::vector<std::size_t> InOrder(const Items& items, RowOrder order) {
-    constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
-    std::vector<int> turns;            // the least last turn of a sequence, by its length
-    std::vector<std::size_t> lasts;    // the item that has it
-    std::vector<std::size_t> previous; // by item
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        previous.push_back(none);
-        if (!items[i].Where || items[i].Listed) continue;
-        const int turn = TurnOf(*items[i].Where, order);
-        const auto at = std::ranges::lower_bound(turns, turn);
-        const auto length = static_cast<std::size_t>(at - turns.begin());
-        if (length == turns.size()) {
-            turns.push_back(turn);
-            lasts.push_back(i);
-        } else {
-            *at = turn;
-            lasts[length] = i;
-        }
-        if (length > 0) previous[i] = lasts[length - 1];
+    std::vector<std::optional<int>> turns;
+    for (const Item& item : items) {
+        const bool counts = item.Where && !item.Listed;
+        turns.push_back(counts ? std::optional(TurnOf(*item.Where, order)) : std::nullopt);
     }
-    std::vector<std::size_t> found;
-    for (std::size_t i = lasts.empty() ? none : lasts.back(); i != none; i = previous[i]) {
-        found.push_back(i);
-    }
-    return found;
+    return LongestRising(turns);
 }
-
-/// Gives every distinct content of a cell a mark.
-class MarkMaker {
-  public:
-    MarkMaker() {
-        for (const auto& [mark, cell] : DefaultLegend()) {
-            marks.emplace(cell, mark);
-            used += mark;
-        }
-    }
-
-    /// The mark of a cell; none when all marks are used up.
-    std::optional<char> MarkOf(const MarkedCell& cell) {
-        const auto known = marks.find(cell);
-        if (known != marks.end()) return known->second;
-        const std::string wanted = Preferred(cell);
-        const std::size_t free = wanted.find_first_not_of(used);
-        if (free == std::string::npos) return std::nullopt;
-        marks.emplace(cell, wanted[free]);
-        used += wanted[free];
-        made.emplace(wanted[free], cell);
-        return wanted[free];
-    }
-
-    const Legend& Made() const { return made; }
-
-  private:
-    /// All marks in the order in which a cell takes them, if they are free.
-    static std::string Preferred(const MarkedCell& cell) {
-        std::string wanted;
-        if (cell.size() > 1) wanted = "ABCDEGHIJKMNSUVWXYZ";
-        if (cell.front().Which != Kind::Factory) wanted += "123456789";
-        for (char c = 'a'; c <= 'z'; ++c) wanted += c;
-        for (char c = ' '; c <= '~'; ++c) {
-            if (IsMark(c)) wanted += c;
-        }
-        return wanted;
-    }
-
-    std::map<MarkedCell, char> marks;
-    Legend made;
-    std::string used;
-};
 
 /// A text of the map as a line of a heading: what stands behind a line end goes on below.
 std::string HeadingText(std::string_view text) {
@@ -182,7 +120,8 @@ class PictureWriter {
         } else if (line.What == MapLine::Is::Title || WordAt(record.Text, 1) == "rem") {
             talk += HeadingText(record.Text);
         } else if (!record.Text.empty()) {
-            talk += "+ " + HeadingText(record.Text);
+            talk += "+ ";
+            talk += HeadingText(record.Text);
         }
     }
 
@@ -231,10 +170,12 @@ class PictureWriter {
         }
         for (Item& item : all) item.Listed = true;
         for (const std::size_t i : kept) all[i].Listed = false;
-        const std::size_t behind = kept.empty() ? 0 : kept.front() + 1;
+        const std::size_t behind = kept.empty() ? 0 : kept.back() + 1;
         for (std::size_t i = 0; i < all.size(); ++i) {
             if (!all[i].Listed) continue;
-            lines += i < behind ? "+" + std::to_string(i + 1) + " " : "+ ";
+            lines += '+';
+            if (i < behind) lines += std::to_string(i + 1);
+            lines += ' ';
             lines += HeadingText(all[i].Text);
         }
         return lines;
