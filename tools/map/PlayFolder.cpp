@@ -28,14 +28,15 @@ fs::path MakeFolder() {
 }
 
 /// The name, without an extension, under which the game can find a file of that name again after it
-/// has been through settings and paths: "\" and a drive's colon lead elsewhere, and blanks in front
-/// and a second extension are taken off there.
+/// has been through settings, lists and paths: "\" and a drive's colon lead elsewhere, blanks in
+/// front and a second extension are taken off there, and a list can't hold all quotes.
 std::string LevelName(const fs::path& map) {
     std::string level = map.stem().string();
     while (IsMapName(level)) level = WithoutExtension(level);
     std::ranges::replace_if(
         level, [](char c) { return c == '\\' || c == ':' || c == '\n' || c == '\r'; }, '-');
     level.erase(0, level.find_first_not_of(' '));
+    if (!CanWrite(level)) std::ranges::replace(level, '"', '\'');
     return level.empty() ? "map" : level;
 }
 
