@@ -98,8 +98,7 @@ class PictureReader {
     KindLines& Of(Kind kind) { return kinds[static_cast<std::size_t>(kind)]; }
 
     void ReadRow(int row, const PictureLine& line) {
-        std::string_view cells = line.Text;
-        while (cells.ends_with(' ')) cells.remove_suffix(1);
+        const std::string_view cells = line.Text;
         if (cells.size() > MostCells) Fail(line.Line, "a map has 300 columns at most");
         for (int col = 0; const char mark : cells) ReadCell(mark, col++, row, line.Line);
     }

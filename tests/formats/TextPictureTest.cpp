@@ -55,11 +55,13 @@ TEST(TextPicture, NothingThatMattersIsLostThereAndBack) {
          {"\"title Down, down\nand \\ up\"\nrem a,= b\n+ c\nboard\n\"  title\"\ntitle \ndirt 0 "
           "0\n",
           "you 0 0\nyou 0 360\ngem1type -0 0\ngem1type 360 -360\ndirt 108000 0\ndirt 1e30 0.5\n",
-          "movingmineL 0 0\nmovingmineL 0 360 x,y\nfactory 0 0 \"factory 0 0 1,a\" 2\nfactory 0 0 "
-          "\n",
+          "movingmineL 0 0\nmovingmineL 0 360 x\n\"factory 0 0 1,a\"\nfactory 0 360 \n",
           "dirt 0 0\ndirt 0 360\ndirt 0 0\n", ""}) {
         EXPECT_EQ(ThereAndBack(odd), Sense(ReadRecords(odd)));
     }
+    EXPECT_EQ(ThereAndBack("\"title a\r\nb\"\n"), "title a\nb\n");
+    EXPECT_EQ(WritePicture("m", ReadRecords("roundrock 0 0\nroundrock 360 0\n")),
+              "order roundrock down\n\nboard\nO\nO\n");
     std::string tags; // more of them than there are marks
     for (int i = 0; i < 200; ++i)
         tags +=
@@ -76,12 +78,16 @@ TEST(TextPicture, TheHeadingGivesMarksTurnsAndLines) {
                                       "+1 roundrock 0 720\n"
                                       "+ rem end\n"
                                       "+ roundrock 370 0\n"
+                                      "2 = movingmineT, movingmineT\n"
+                                      "+ movingmineT 720 1440\n"
                                       "board\n"
                                       "#@OO  \n"
-                                      "\n"
-                                      "#L g\n\n"));
+                                      "   O\n"
+                                      "#L g2\n\n"));
     EXPECT_EQ(map, "\"title Mind, the\ngap\"\nrem end\nyou 0 360\ndirt 720 0\ndirt 0 0\n"
-                   "gem1type 720 1080\nroundrock 0 720\nroundrock 0 1080\nroundrock 370 0\n"
+                   "gem1type 720 1080\nroundrock 0 720\nroundrock 360 1080\nroundrock 0 "
+                   "1080\nroundrock 370 0\n"
+                   "movingmineT 720 1440\nmovingmineT 720 1440\n"
                    "movingmineL 720 360 D\nfactory 720 1080 5:gem1type\n");
     const auto lines = ReadPicture("p", "board\n\n @");
     EXPECT_EQ(lines.at(0).Line, 3);
@@ -106,6 +112,7 @@ TEST(TextPicture, FaultsNameTheirLine) {
           {"+1 dirt 0 0\n+1 dirt 0 0\nboard", "p:2: the number 1 is given twice, or"},
           {"+1 rem\nboard", "p:1: only objects are numbered"},
           {"+ dirt x 0\nboard", "p:1: \"x\" is no number"},
+          {"+ \"a\nboard", "p:1: a map's line can't"},
           {"title \"a\", b\nboard", "p:1: a map's line can't hold both a quote and a comma"},
           {"board\n @\n  L\n@", "p:4: a second player; the first one stands in line 2"},
           {"board\n#\t", "p:2: column 2: cells are blanks or"},
