@@ -37,7 +37,7 @@ TEST(BoardImage, HasTheSpritesInWholePixelsAndIsCutAtTheBoardsEdges) {
                   {145, 60, factory.At(12, 6)}};
     for (const auto& [x, y, seen] : pixels) {
         const Pixel& pixel = image.At(x, y);
-        EXPECT_EQ(Colour(pixel.Red, pixel.Green, pixel.Blue), seen) << x << ' ' << y;
+        EXPECT_EQ((Colour{pixel.Red, pixel.Green, pixel.Blue}), seen) << x << ' ' << y;
         EXPECT_EQ(pixel.Alpha, 255);
     }
     EXPECT_THROW(DrawBoard(LoadMap("you 0 0\n", 1), 1), std::runtime_error);

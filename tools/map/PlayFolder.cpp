@@ -61,7 +61,7 @@ PlayFolder::~PlayFolder() {
 std::string PlayFolder::Fill(const MapSource& map, const fs::path& gameFolder) const {
     const fs::path file = fs::absolute(map.Name);
     const std::string level = LevelName(file);
-    const std::string name = level + ".TBM";
+    std::string name = level + ".TBM";
     if (map.IsPicture) {
         WriteTo(Path / name, WriteRecords(map.Lines));
     } else {
