@@ -29,7 +29,9 @@ bool IsAboutTurns(const std::string& line) {
     if (line.starts_with("order ")) return true;
     if (!line.starts_with('+')) return false;
     const MapLine object = ReadMapLine({line.substr(line.find(' ') + 1)});
-    const auto isOnGrid = [](float twips) { return twips >= 0 && std::fmod(twips, Pitch) == 0; };
+    const auto isOnGrid = [](float twips) {
+        return twips >= 0 && twips < (GridSize - 1) * Pitch && std::fmod(twips, Pitch) == 0;
+    };
     return object.Top && object.Left && isOnGrid(*object.Top) && isOnGrid(*object.Left);
 }
 
