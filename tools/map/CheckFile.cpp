@@ -1,0 +1,55 @@
+// Which checks a file gets, by what it is and how far it can be read.
+#include "map/Checks.h"
+
+#include <algorithm>
+
+namespace tumbledeep {
+
+namespace {
+
+void Append(Findings& found, Findings more) {
+    found.insert(found.end(), std::make_move_iterator(more.begin()),
+                 std::make_move_iterator(more.end()));
+}
+
+/// Whether all that looks like an object is on the board: without some, walls would seem to have
+/// holes, and more of that kind.
+bool IsComplete(const CheckedMap& map) {
+    for (std::size_t i = 0; i < map.Lines.size(); ++i) {
+        const bool isNothing = map.Lines[i].What == MapLine::Is::Nothing;
+        if (map.Lines[i].Fault || (isNothing && LosesObject(map.Source.Lines[i].Text)))
+            return false;
+    }
+    return std::ranges::all_of(map.Full, [](int line) { return line == 0; });
+}
+
+Findings CheckMap(const std::string& name) {
+    const MapSource source = ReadMapSource(name);
+    const CheckedMap map = ReadChecked(source);
+    Findings found;
+    for (const auto check :
+         {CheckLines, CheckKeywords, CheckCommas, CheckRecipes, CheckPlaces, CheckCells}) {
+        Append(found, check(map));
+    }
+    if (!source.IsPicture) {
+        Append(found, CheckQuotes(source.Lines, map.Ends));
+        Append(found, CheckListed(name));
+    }
+    if (IsComplete(map)) {
+        Append(found, CheckWalls(map));
+        Append(found, CheckReach(map));
+    }
+    return found;
+}
+
+} // namespace
+
+Findings CheckFile(const std::string& name) {
+    const std::filesystem::path path(name);
+    Findings found =
+        HasExtension(path, ".TBL") ? CheckList(path.parent_path(), BytesOf(path)) : CheckMap(name);
+    std::ranges::stable_sort(found, {}, &Finding::Line);
+    return found;
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,76 @@
+// Which lines that say nothing are comments, and which are objects with a slip in their name.
+#include "map/Checks.h"
+
+#include "base/Number.h"
+#include "base/Text.h"
+#include "map/NearMiss.h"
+
+namespace tumbledeep {
+
+namespace {
+
+bool IsPunctuation(char c) {
+    return c > ' ' && c <= '~' &&
+           std::string_view("`~!@#$%^&*()-_=+[]{}\\|;:'\",.<>/?").find(c) != std::string_view::npos;
+}
+
+bool IsComment(std::string_view text) {
+    return text.empty() || IsPunctuation(text.front()) || SameButCase(WordAt(text, 1), "rem");
+}
+
+/// The first word without its tabs, and how the line goes on.
+struct Slip {
+    std::string_view Word;
+    std::string_view Meant; ///< the keyword, or ""
+    bool HasTab;
+    bool IsSure; ///< the line goes on as an object or a title does
+};
+
+Slip ReadSlip(std::string_view text) {
+    const std::string_view bare = Trimmed(text, "\t ");
+    Slip slip{bare.substr(0, bare.find_first_of("\t ")), "", false, false};
+    slip.HasTab = WordAt(text, 1) != slip.Word;
+    slip.Meant = NearMiss(slip.Word, Keywords());
+    const std::string_view rest = Trimmed(bare.substr(slip.Word.size()), "\t ");
+    slip.IsSure = ReadNumber(rest).Length > 0 ||
+                  (!slip.Meant.empty() && (rest.empty() || slip.Meant == "title"));
+    return slip;
+}
+
+Finding SlipFinding(int line, const Slip& slip) {
+    if (slip.Word == KindText(Kind::Bang)) {
+        return Error(line, {"a map can't hold a bang, so the line is skipped"},
+                     {"a factory makes them, with a recipe such as 5:bang"});
+    }
+    if (slip.HasTab && !slip.Meant.empty()) {
+        return Error(line, {"a tab is part of the first word, so the line is skipped"},
+                     {"write one blank in place of each tab, and none in front"});
+    }
+    const std::string text = Joined({"\"", slip.Word, "\" is nothing that a map can hold"});
+    if (slip.IsSure) {
+        const bool known = !slip.Meant.empty();
+        return Error(line, {text, ", so the line is skipped"},
+                     {known ? "did you mean \"" : "see levels/README.md for what it can hold",
+                      slip.Meant, known ? "\"" : ""});
+    }
+    return Warning(line, {text, ", so the line is skipped"}, {"begin comments with rem"});
+}
+
+} // namespace
+
+bool LosesObject(std::string_view text) {
+    return !IsComment(text) && WordAt(text, 1) != "title" && ReadSlip(text).IsSure;
+}
+
+Findings CheckKeywords(const CheckedMap& map) {
+    Findings found;
+    for (std::size_t i = 0; i < map.Lines.size(); ++i) {
+        const std::string_view text = map.Source.Lines[i].Text;
+        if (map.Lines[i].What != MapLine::Is::Nothing || WordAt(text, 1) == "title") continue;
+        if (IsComment(text) || (i > 0 && map.Ends[i - 1].ByComma)) continue;
+        found.push_back(SlipFinding(map.Lines[i].Line, ReadSlip(text)));
+    }
+    return found;
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,149 @@
+// What is wrong with the words behind a first word that the game knows.
+#include "map/Checks.h"
+
+#include "base/Failure.h"
+#include "base/Number.h"
+#include "base/Text.h"
+#include "world/Heading.h"
+
+#include <algorithm>
+
+namespace tumbledeep {
+
+namespace {
+
+constexpr std::string_view HeadingLetters = "UDLR";
+
+bool IsHeading(std::string_view word) {
+    return word.size() == 1 && HeadingLetters.find(word) != std::string_view::npos;
+}
+
+bool IsNumber(std::string_view word) { return IsWhole(ReadNumber(word), word); }
+
+TagUse TagOf(Kind kind) { return kind == Kind::You ? TagUse::None : RowOf(kind).Tag; }
+
+/// The words of a line, without the empty ones.
+std::vector<std::string_view> WordsOf(std::string_view text) {
+    std::vector<std::string_view> words;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::string_view word = WordAt(text, at + 1);
+        if (!word.empty()) words.push_back(word);
+        at += word.size() + 1;
+    }
+    return words;
+}
+
+bool IsNumberWithLetters(std::string word) {
+    std::ranges::replace_if(
+        word, [](char c) { return c == 'O' || c == 'o'; }, '0');
+    std::ranges::replace_if(
+        word, [](char c) { return c == 'l' || c == 'I'; }, '1');
+    return IsNumber(word);
+}
+
+std::string EmptyWordHint(std::string_view text) {
+    if (WordsOf(text).size() < 3) return "write the name, Top and Left, one blank between two";
+    if (text.find("  ") != std::string_view::npos) return "leave one of the blanks in a row";
+    return "take the blank at the end of the line away";
+}
+
+std::string NumberHint(const MapLine& line, const MapFault& fault, std::string_view text) {
+    const std::string& word = fault.Word;
+    if (fault.Number == Failure::Overflow) return "the last column and row stand at 107640";
+    if (word.empty()) return EmptyWordHint(text);
+    if (word.find('\t') != std::string::npos) return "write a blank in place of the tab";
+    if (word.find(',') != std::string::npos) return "write a point in place of the comma";
+    if (IsNumberWithLetters(word)) return "write digits, 0 and 1, in place of the letters";
+    const auto words = WordsOf(text);
+    if (words.size() > 3 && word == words.back()) {
+        std::string hint = "take \"";
+        hint += word + "\" away: nothing stands behind the two numbers of a ";
+        return hint.append(KindText(line.Which));
+    }
+    if (IsHeading(word)) return "the heading stands behind the two numbers";
+    return "write a number of twips, such as 360";
+}
+
+Finding NumberFinding(const MapLine& line, std::string_view text, bool isFirst) {
+    const MapFault& fault = *line.Fault;
+    const bool tooLarge = fault.Number == Failure::Overflow;
+    std::string what = fault.Word.empty() ? "a number is missing" : '"' + fault.Word + '"';
+    if (!fault.Word.empty()) what += tooLarge ? " is too large a number" : " is no number";
+    const std::string number = std::to_string(fault.Number);
+    return Error(line.Line,
+                 {what, isFirst ? ": loading stops here with failure " : ": failure ", number},
+                 {NumberHint(line, fault, text)});
+}
+
+Finding FullFinding(const MapLine& line, bool isFirst) {
+    return Error(line.Line,
+                 {"this is one ", KindText(line.Which), " more than the 32766 that a map can have",
+                  isFirst ? ": loading stops here with failure 6" : ": failure 6"},
+                 {"take objects of this kind away"});
+}
+
+void CheckHeading(Findings& found, const MapLine& line, std::string_view text) {
+    if (IsHeading(line.Text)) return;
+    const auto words = WordsOf(text);
+    std::string what = "the heading is missing";
+    std::string hint = "end the line with U, D, L or R";
+    if (text.ends_with(' ')) {
+        what = "the blank at the end of the line hides the heading";
+        hint = "take it away";
+    } else if (words.size() > 3) {
+        what = '"' + line.Text + "\" is no heading";
+        const std::string capital(1, AsciiUpper(line.Text.front()));
+        if (IsHeading(words[3])) {
+            hint = "nothing stands behind the heading " + std::string(words[3]);
+        } else if (IsHeading(capital)) {
+            hint = "write " + capital;
+        }
+    }
+    found.push_back(Warning(line.Line, {what, ": the mine stands still"}, {hint}));
+}
+
+/// Words between those that the game looks at, and a single number for both places.
+void CheckWords(Findings& found, const MapLine& line, std::string_view text) {
+    const auto words = WordsOf(text);
+    const std::size_t wanted = TagOf(line.Which) == TagUse::None ? 3 : 4;
+    const std::string_view name = KindText(line.Which);
+    if (words.size() > wanted) {
+        const std::string_view last = words.back();
+        found.push_back(Warning(line.Line,
+                                {"nothing looks at \"", words[wanted - 1], "\": the last word, \"",
+                                 last, wanted == 3 ? "\", is Left" : "\", is taken in its place"},
+                                {"take the words away that are too many"}));
+    } else if (words.size() < 3) {
+        found.push_back(
+            Warning(line.Line, {"there is one number, which is taken for both Top and Left"},
+                    {"write \"", name, " ", words.back(), " ", words.back(), "\" if that is it"}));
+    }
+}
+
+} // namespace
+
+Findings CheckLines(const CheckedMap& map) {
+    Findings found;
+    bool isFirst = true;
+    for (std::size_t i = 0; i < map.Lines.size(); ++i) {
+        const MapLine& line = map.Lines[i];
+        const std::string_view text = map.Source.Lines[i].Text;
+        if (line.What == MapLine::Is::Nothing && WordAt(text, 1) == "title") {
+            found.push_back(Warning(line.Line, {"the title has no text, so no box is shown"},
+                                    {"write the text behind \"title \""}));
+        }
+        if (line.What != MapLine::Is::Object) continue;
+        const bool isFull = map.Full.at(static_cast<std::size_t>(line.Which)) == line.Line;
+        if (isFull || line.Fault) {
+            found.push_back(isFull ? FullFinding(line, isFirst)
+                                   : NumberFinding(line, text, isFirst));
+            isFirst = false;
+            continue;
+        }
+        if (!map.Ends[i].ByComma) CheckWords(found, line, text);
+        if (TagOf(line.Which) == TagUse::Heading) CheckHeading(found, line, text);
+    }
+    return found;
+}
+
+} // namespace tumbledeep

@@ -1,0 +1,54 @@
+// Players, gems, and where objects stand: on the pitch of cells, and on the part of the board that
+// is drawn.
+#include "map/Checks.h"
+
+#include <algorithm>
+
+namespace tumbledeep {
+
+namespace {
+
+void CheckPlace(Findings& found, const MapObject& object) {
+    const std::string_view name = KindText(object.Which);
+    const Cell cell = object.At();
+    if (!cell.InGrid()) {
+        found.push_back(Error(object.Line, {"the ", name, " stands outside the board"},
+                              {"Top and Left go from 0 to 107640"}));
+    } else if (!IsDrawn(cell)) {
+        found.push_back(Warning(object.Line,
+                                {"the ", name, " stands out of sight, in ", PlaceText(cell)},
+                                {"what is drawn begins at Top 0 and Left 0"}));
+    } else if (!object.OnPitch()) {
+        found.push_back(Warning(object.Line, {"the ", name, " stands between two cells"},
+                                {"the nearest is ", PlaceText(cell)}));
+    }
+}
+
+bool Loses(const CheckedMap& map, Kind kind) {
+    return std::ranges::any_of(map.Lines, [kind](const MapLine& line) {
+        return line.Which == kind && line.Fault.has_value();
+    });
+}
+
+} // namespace
+
+Findings CheckPlaces(const CheckedMap& map) {
+    Findings found;
+    for (const MapObject& object : map.Objects) CheckPlace(found, object);
+    if (map.PlayerLines.empty()) {
+        found.push_back(Error(1, {"there is no player"}, {"add a line such as \"you 360 360\""}));
+    }
+    for (std::size_t i = 0; i + 1 < map.PlayerLines.size(); ++i) {
+        found.push_back(Warning(map.PlayerLines[i],
+                                {"this player does not count, as there is one in line ",
+                                 std::to_string(map.PlayerLines.back()), " too"},
+                                {"leave one line for the player"}));
+    }
+    if (map.Start.GemTotal == 1 && !Loses(map, Kind::Gem1Type)) {
+        found.push_back(Error(1, {"there is no gem, so the map is won at once"},
+                              {"add a line such as \"gem1type 360 720\""}));
+    }
+    return found;
+}
+
+} // namespace tumbledeep
