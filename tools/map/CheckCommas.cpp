@@ -35,8 +35,8 @@ void CheckParts(Findings& found, std::span<const MapLine> parts, std::span<const
     const bool cutsNumbers = parts[0].What == MapLine::Is::Object && ReadNumber(text).Length > 0;
     const bool says = !SaysNothing(parts[telling]);
     Finding finding = Warning(parts[telling].Line,
-                              {"the comma ends the line, and \"", text,
-                               says ? "\" is read as a line of its own" : "\" is lost"},
+                              {"the comma ends the line, and ", Quoted(text),
+                               says ? " is read as a line of its own" : " is lost"},
                               {allObjects    ? "write each object on a line of its own"
                                : cutsNumbers ? "write a blank between numbers, a point in one"
                                              : "put the whole line in double quotes"});

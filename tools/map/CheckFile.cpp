@@ -12,17 +12,6 @@ void Append(Findings& found, Findings more) {
                  std::make_move_iterator(more.end()));
 }
 
-/// Whether all that looks like an object is on the board: without some, walls would seem to have
-/// holes, and more of that kind.
-bool IsComplete(const CheckedMap& map) {
-    for (std::size_t i = 0; i < map.Lines.size(); ++i) {
-        const bool isNothing = map.Lines[i].What == MapLine::Is::Nothing;
-        if (map.Lines[i].Fault || (isNothing && LosesObject(map.Source.Lines[i].Text)))
-            return false;
-    }
-    return std::ranges::all_of(map.Full, [](int line) { return line == 0; });
-}
-
 Findings CheckMap(const std::string& name) {
     const MapSource source = ReadMapSource(name);
     const CheckedMap map = ReadChecked(source);
@@ -35,7 +24,10 @@ Findings CheckMap(const std::string& name) {
         Append(found, CheckQuotes(source.Lines, map.Ends));
         Append(found, CheckListed(name));
     }
-    if (IsComplete(map)) {
+    // Without some objects, walls would seem to have holes, and more of that kind.
+    const auto lost = LostNames(map);
+    Append(found, CheckNeeds(map, lost));
+    if (lost.empty()) {
         Append(found, CheckWalls(map));
         Append(found, CheckReach(map));
     }

@@ -46,20 +46,28 @@ Finding SlipFinding(int line, const Slip& slip) {
         return Error(line, {"a tab is part of the first word, so the line is skipped"},
                      {"write one blank in place of each tab, and none in front"});
     }
-    const std::string text = Joined({"\"", slip.Word, "\" is nothing that a map can hold"});
+    const std::string text = Joined({Quoted(slip.Word), " is nothing that a map can hold"});
     if (slip.IsSure) {
-        const bool known = !slip.Meant.empty();
         return Error(line, {text, ", so the line is skipped"},
-                     {known ? "did you mean \"" : "see levels/README.md for what it can hold",
-                      slip.Meant, known ? "\"" : ""});
+                     {slip.Meant.empty() ? Joined({"lines begin with ", Listed(Keywords())})
+                                         : Joined({"did you mean ", Quoted(slip.Meant)})});
     }
     return Warning(line, {text, ", so the line is skipped"}, {"begin comments with rem"});
 }
 
 } // namespace
 
-bool LosesObject(std::string_view text) {
-    return !IsComment(text) && WordAt(text, 1) != "title" && ReadSlip(text).IsSure;
+std::set<std::string_view> LostNames(const CheckedMap& map) {
+    std::set<std::string_view> names;
+    for (std::size_t i = 0; i < map.Lines.size(); ++i) {
+        const MapLine& line = map.Lines[i];
+        const std::string_view text = map.Source.Lines[i].Text;
+        if (line.Fault || map.IsTooMany(line)) names.insert(KindText(line.Which));
+        if (line.What != MapLine::Is::Nothing || IsComment(text)) continue;
+        const Slip slip = ReadSlip(text);
+        if (slip.IsSure && slip.Meant != "title") names.insert(slip.Meant);
+    }
+    return names;
 }
 
 Findings CheckKeywords(const CheckedMap& map) {

@@ -51,14 +51,14 @@ std::string NumberHint(const MapLine& line, const MapFault& fault, std::string_v
     const std::string& word = fault.Word;
     if (fault.Number == Failure::Overflow) return "the last column and row stand at 107640";
     if (word.empty()) return EmptyWordHint(text);
+    if (word.ends_with('\t')) return "take the tab at the word's end away";
     if (word.find('\t') != std::string::npos) return "write a blank in place of the tab";
     if (word.find(',') != std::string::npos) return "write a point in place of the comma";
     if (IsNumberWithLetters(word)) return "write digits, 0 and 1, in place of the letters";
     const auto words = WordsOf(text);
     if (words.size() > 3 && word == words.back()) {
-        std::string hint = "take \"";
-        hint += word + "\" away: nothing stands behind the two numbers of a ";
-        return hint.append(KindText(line.Which));
+        return Joined({"take ", Quoted(word), " away: nothing stands behind the two numbers of a ",
+                       KindText(line.Which)});
     }
     if (IsHeading(word)) return "the heading stands behind the two numbers";
     return "write a number of twips, such as 360";
@@ -67,7 +67,7 @@ std::string NumberHint(const MapLine& line, const MapFault& fault, std::string_v
 Finding NumberFinding(const MapLine& line, std::string_view text, bool isFirst) {
     const MapFault& fault = *line.Fault;
     const bool tooLarge = fault.Number == Failure::Overflow;
-    std::string what = fault.Word.empty() ? "a number is missing" : '"' + fault.Word + '"';
+    std::string what = fault.Word.empty() ? "a number is missing" : Quoted(fault.Word);
     if (!fault.Word.empty()) what += tooLarge ? " is too large a number" : " is no number";
     const std::string number = std::to_string(fault.Number);
     return Error(line.Line,
@@ -82,16 +82,16 @@ Finding FullFinding(const MapLine& line, bool isFirst) {
                  {"take objects of this kind away"});
 }
 
+/// Of a line whose last word is no heading.
 void CheckHeading(Findings& found, const MapLine& line, std::string_view text) {
-    if (IsHeading(line.Text)) return;
     const auto words = WordsOf(text);
     std::string what = "the heading is missing";
     std::string hint = "end the line with U, D, L or R";
-    if (text.ends_with(' ')) {
+    if (words.size() > 3 && text.ends_with(' ')) {
         what = "the blank at the end of the line hides the heading";
         hint = "take it away";
     } else if (words.size() > 3) {
-        what = '"' + line.Text + "\" is no heading";
+        what = Joined({Quoted(line.Text), " is no heading"});
         const std::string capital(1, AsciiUpper(line.Text.front()));
         if (IsHeading(words[3])) {
             hint = "nothing stands behind the heading " + std::string(words[3]);
@@ -108,11 +108,11 @@ void CheckWords(Findings& found, const MapLine& line, std::string_view text) {
     const std::size_t wanted = TagOf(line.Which) == TagUse::None ? 3 : 4;
     const std::string_view name = KindText(line.Which);
     if (words.size() > wanted) {
-        const std::string_view last = words.back();
-        found.push_back(Warning(line.Line,
-                                {"nothing looks at \"", words[wanted - 1], "\": the last word, \"",
-                                 last, wanted == 3 ? "\", is Left" : "\", is taken in its place"},
-                                {"take the words away that are too many"}));
+        found.push_back(
+            Warning(line.Line,
+                    {"nothing looks at ", Quoted(words[wanted - 1]), ": the last word, ",
+                     Quoted(words.back()), wanted == 3 ? ", is Left" : ", is taken in its place"},
+                    {"take the words away that are too many"}));
     } else if (words.size() < 3) {
         found.push_back(
             Warning(line.Line, {"there is one number, which is taken for both Top and Left"},
@@ -133,15 +133,18 @@ Findings CheckLines(const CheckedMap& map) {
                                     {"write the text behind \"title \""}));
         }
         if (line.What != MapLine::Is::Object) continue;
-        const bool isFull = map.Full.at(static_cast<std::size_t>(line.Which)) == line.Line;
+        const bool isFull = map.IsTooMany(line);
         if (isFull || line.Fault) {
             found.push_back(isFull ? FullFinding(line, isFirst)
                                    : NumberFinding(line, text, isFirst));
             isFirst = false;
             continue;
         }
-        if (!map.Ends[i].ByComma) CheckWords(found, line, text);
-        if (TagOf(line.Which) == TagUse::Heading) CheckHeading(found, line, text);
+        if (TagOf(line.Which) == TagUse::Heading && !IsHeading(line.Text)) {
+            CheckHeading(found, line, text);
+        } else if (!map.Ends[i].ByComma) {
+            CheckWords(found, line, text);
+        }
     }
     return found;
 }

@@ -42,12 +42,12 @@ std::optional<Finding> NameFinding(const fs::path& folder, const Record& record)
     }
     if (HasExtension(name, Extension)) {
         return Error(record.Line,
-                     {"the game does not go on from a name with an extension, \"", name, "\""},
+                     {"the game does not go on from a name with an extension, ", Quoted(name)},
                      {"take the extension away"});
     }
     const fs::path file = folder / HostPath(FileOf(name));
     if (!IsThere(file)) {
-        return Error(record.Line, {"there is no map \"", FileOf(name), "\" beside the list"},
+        return Error(record.Line, {"there is no map ", Quoted(FileOf(name)), " beside the list"},
                      {"mend the name, or put the map there"});
     }
     const std::string real = FindFile(file).stem().string();
@@ -66,7 +66,7 @@ Finding CommaFinding(int line) {
 
 Finding TwiceFinding(int line, const std::string& name, int first) {
     return Warning(line,
-                   {"\"", name, "\" is in line ", std::to_string(first),
+                   {Quoted(name), " is in line ", std::to_string(first),
                     " already, and the game goes on from there each time"},
                    {"take one of the two away"});
 }
@@ -116,10 +116,10 @@ Findings CheckListed(const fs::path& file) {
         return {Warning(1,
                         {inOtherCase, " names this map in another case, and the game does not "
                                       "go on from it"},
-                        {"write \"", name, "\" in the list"})};
+                        {"write ", Quoted(name), " in the list"})};
     }
     return {Warning(1, {"no list beside this map names it, so the game can't go on after a win"},
-                    {"write \"", name, "\" on a line of Default.TBL beside it"})};
+                    {"write ", Quoted(name), " on a line of Default.TBL beside it"})};
 }
 
 } // namespace tumbledeep

@@ -24,27 +24,26 @@ void CheckPlace(Findings& found, const MapObject& object) {
     }
 }
 
-bool Loses(const CheckedMap& map, Kind kind) {
-    return std::ranges::any_of(map.Lines, [kind](const MapLine& line) {
-        return line.Which == kind && line.Fault.has_value();
-    });
-}
-
 } // namespace
 
 Findings CheckPlaces(const CheckedMap& map) {
     Findings found;
     for (const MapObject& object : map.Objects) CheckPlace(found, object);
-    if (map.PlayerLines.empty()) {
-        found.push_back(Error(1, {"there is no player"}, {"add a line such as \"you 360 360\""}));
-    }
     for (std::size_t i = 0; i + 1 < map.PlayerLines.size(); ++i) {
         found.push_back(Warning(map.PlayerLines[i],
                                 {"this player does not count, as there is one in line ",
                                  std::to_string(map.PlayerLines.back()), " too"},
                                 {"leave one line for the player"}));
     }
-    if (map.Start.GemTotal == 1 && !Loses(map, Kind::Gem1Type)) {
+    return found;
+}
+
+Findings CheckNeeds(const CheckedMap& map, const std::set<std::string_view>& lost) {
+    Findings found;
+    if (map.PlayerLines.empty() && !lost.contains(KindText(Kind::You))) {
+        found.push_back(Error(1, {"there is no player"}, {"add a line such as \"you 360 360\""}));
+    }
+    if (map.Start.GemTotal == 1 && !lost.contains(KindText(Kind::Gem1Type))) {
         found.push_back(Error(1, {"there is no gem, so the map is won at once"},
                               {"add a line such as \"gem1type 360 720\""}));
     }

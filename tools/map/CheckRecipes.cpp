@@ -1,6 +1,7 @@
 // What the factories of a map make, and why some make nothing.
 #include "map/Checks.h"
 
+#include "base/Text.h"
 #include "map/NearMiss.h"
 
 #include <algorithm>
@@ -44,20 +45,21 @@ Reason KindReason(std::string_view recipe) {
                 "name another kind"};
     }
     const std::string_view meant = NearMiss(kind, Products());
-    return {Joined({"there is no kind \"", kind, "\""}),
-            meant.empty() ? "see levels/README.md for the kinds"
-                          : Joined({"did you mean \"", meant, "\""})};
+    return {Joined({"there is no kind ", Quoted(kind)}),
+            meant.empty() ? Joined({"the kinds are ", Listed(Products())})
+                          : Joined({"did you mean ", Quoted(meant)})};
 }
 
 Reason WhyNothing(const MapObject& factory, std::string_view text) {
     const std::string& recipe = factory.Tag;
-    if (text.ends_with(' '))
-        return {"the blank at the line's end hides the recipe", "take it away"};
-    if (std::ranges::count(text, ' ') < 3) {
+    if (std::ranges::count(Trimmed(text), ' ') < 3) {
         return {"the recipe is missing", "end the line with one such as 5:roundrock"};
     }
+    if (recipe.empty()) {
+        return {"the blank at the end of the line hides the recipe", "take it away"};
+    }
     if (!IsDigit(recipe.front())) {
-        return {Joined({"the recipe \"", recipe, "\" does not begin with a digit"}),
+        return {Joined({"the recipe ", Quoted(recipe), " does not begin with a digit"}),
                 "write a recipe such as 5:roundrock"};
     }
     return KindReason(recipe);

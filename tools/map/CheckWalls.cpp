@@ -79,10 +79,10 @@ void CheckOutside(Findings& found, const CheckedMap& map, const PerCell<char>& o
         ++count;
     }
     if (first == nullptr) return;
-    const std::string more =
-        count == 1 ? "" : Joined({", as do ", std::to_string(count - 1), " objects more"});
-    found.push_back(Warning(first->Line,
-                            {"the ", KindText(first->Which), " stands outside the walls", more},
+    const std::string who =
+        count == 1 ? Joined({"the ", KindText(first->Which), " stands"})
+                   : Joined({std::to_string(count), " objects, from this one on, stand"});
+    found.push_back(Warning(first->Line, {who, " outside the walls"},
                             {"close the walls round ", PlaceText(first->At())}));
 }
 

@@ -33,6 +33,11 @@ struct CheckedMap {
     std::vector<int> PlayerLines;      ///< the lines for a player, unreadable ones too
     std::array<int, KindCount> Full{}; ///< by kind, the first line too many for its pool, or 0
     Board Start;                       ///< with all `Objects` on it
+
+    bool IsTooMany(const MapLine& line) const {
+        return line.What == MapLine::Is::Object &&
+               Full.at(static_cast<std::size_t>(line.Which)) == line.Line;
+    }
 };
 
 /// The source has to outlive the map.

@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <set>
 #include <string_view>
 
 namespace tumbledeep {
@@ -17,8 +18,9 @@ Findings CheckLines(const CheckedMap& map);
 /// First words that mean nothing to the game and are no comment.
 Findings CheckKeywords(const CheckedMap& map);
 
-/// Whether a line that says nothing looks like an object's, so that one is missing on the board.
-bool LosesObject(std::string_view text);
+/// The first words that were meant in lines whose objects are missing on the board; "" for a line
+/// that may have meant any.
+std::set<std::string_view> LostNames(const CheckedMap& map);
 
 /// Lines that a comma cuts.
 Findings CheckCommas(const CheckedMap& map);
@@ -29,8 +31,11 @@ Findings CheckRecipes(const CheckedMap& map);
 /// What a recipe makes; none when that is nothing.
 std::optional<Kind> MadeBy(std::string_view recipe);
 
-/// The number of players and gems, and objects between cells or off the board.
+/// Objects between cells or off the board, and players too many.
 Findings CheckPlaces(const CheckedMap& map);
+
+/// What a map can't be played without, if it is not among the lost names: a player, a gem.
+Findings CheckNeeds(const CheckedMap& map, const std::set<std::string_view>& lost);
 
 /// Cells with several objects, one finding for each.
 Findings CheckCells(const CheckedMap& map);

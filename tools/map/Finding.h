@@ -32,6 +32,17 @@ inline std::string Joined(Pieces pieces) {
     return text;
 }
 
+/// A text from the file in quotes, fit for a line of output: cut if it is long, with blanks in
+/// place of tabs and line ends.
+inline std::string Quoted(std::string_view text) {
+    constexpr std::size_t longest = 40;
+    std::string quoted(text.substr(0, longest));
+    for (char& c : quoted) {
+        if (c >= 0 && c < ' ') c = ' ';
+    }
+    return Joined({"\"", quoted, text.size() > longest ? "...\"" : "\""});
+}
+
 inline Finding Error(int line, Pieces text, Pieces hint) {
     return {line, Severity::Error, Joined(text), Joined(hint)};
 }

@@ -66,6 +66,12 @@ std::string_view NearMiss(std::string_view word, std::span<const std::string_vie
     return nearest;
 }
 
+std::string Listed(std::span<const std::string_view> names) {
+    std::string text;
+    for (const std::string_view name : names) text.append(text.empty() ? "" : " ").append(name);
+    return text;
+}
+
 std::vector<std::string_view> Keywords() {
     std::vector<std::string_view> names{"title", KindText(Kind::You)};
     for (const KindRow& row : PoolKinds()) {

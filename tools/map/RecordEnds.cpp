@@ -69,7 +69,7 @@ Findings CheckQuotes(const std::vector<Record>& records, const std::vector<Recor
         }
         if (ends[i].Dropped.empty()) continue;
         found.push_back(Warning(ends[i].Line,
-                                {"\"", ends[i].Dropped, "\" behind the closing quote is dropped"},
+                                {Quoted(ends[i].Dropped), " behind the closing quote is dropped"},
                                 {"put the closing quote at the end of the line"}));
     }
     return found;
