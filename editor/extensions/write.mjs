@@ -1,0 +1,156 @@
+// From a map of the editor to the bytes of a map. A line of the source that is still true keeps its
+// place, since the order of lines is the order of turns; what is no longer there goes, and what is
+// new comes last. What can't be written is refused by name, and then nothing is written.
+import { toBytes } from "./bytes.mjs";
+import { byteOrderMark, drawnCells, isBlank, isKind, isOpen, objectOf, plainLine, splitLines,
+    tagNameOf } from "./lines.mjs";
+import { placeOf, tileSize } from "./read.mjs";
+
+const samePlace = 0.02; // pixels; a twip is 1/15
+const nearCell = 6; // pixels; how far beside its cell an object may lie
+
+// Rocks and T mines fall together only when the lower one of a column comes first.
+const lowerFirst = ["roundrock", "movingmineT"];
+
+// {bytes, faults}: the bytes are good only when there are no faults.
+export function bytesOf(map) {
+    const faults = faultsOf(map);
+    const source = toBytes(map.property("source") || "");
+    const mark = source.startsWith(byteOrderMark) ? byteOrderMark : "";
+    const lines = splitLines(source.substring(mark.length));
+    const known = new Set(lines.map(line => line.text));
+    const wanted = [];
+    for (const layer of map.layers) {
+        if (layer.isTileLayer) wanted.push(...tileLines(layer, faults));
+        else if (layer.isObjectLayer) wanted.push(...objectLines(layer, known, faults));
+        else faults.push(`The layer "${layer.name}" is of a sort that no map has.`);
+    }
+    return { bytes: mark + merge(lines, wanted), faults };
+}
+
+function faultsOf(map) {
+    const faults = [];
+    if (map.tileWidth !== tileSize || map.tileHeight !== tileSize)
+        faults.push(`The map's tiles have to be ${tileSize} by ${tileSize} pixels.`);
+    for (const layer of map.layers) {
+        if (layer.offset.x !== 0 || layer.offset.y !== 0)
+            faults.push(`The layer "${layer.name}" has an offset; set it to 0.`);
+    }
+    return faults;
+}
+
+// The lines of the source that are wanted, and then those wanted that it does not have. Blank lines
+// stay. A quote left open at the source's end stays the end, as it would take in all behind it.
+function merge(lines, wanted) {
+    const left = new Map();
+    const change = (text, by) => left.set(text, (left.get(text) || 0) + by);
+    for (const text of wanted) change(text, 1);
+    const kept = lines.filter(({ text }) => {
+        if (isBlank(text)) return true;
+        if (!left.get(text)) return false;
+        change(text, -1);
+        return true;
+    });
+    const end = lines.length > 0 && lines[0].end !== "" ? lines[0].end : "\n";
+    const added = [];
+    for (const text of wanted) {
+        if (!left.get(text)) continue;
+        change(text, -1);
+        added.push({ text, end });
+    }
+    const open = kept.length > 0 && isOpen(kept[kept.length - 1].text) ? kept.splice(-1) : [];
+    if (added.length > 0 && kept.length > 0 && kept[kept.length - 1].end === "")
+        kept[kept.length - 1].end = end;
+    return kept.concat(added, open).map(({ text, end }) => text + end).join("");
+}
+
+// From the top down, those that fall together from the bottom up.
+function tileLines(layer, faults) {
+    const falling = [];
+    const others = [];
+    for (const area of layer.region().rects) {
+        for (let row = area.y; row < area.y + area.height; ++row) {
+            for (let column = area.x; column < area.x + area.width; ++column) {
+                const tile = layer.tileAt(column, row);
+                if (!tile) continue;
+                const word = tile.type;
+                const tag = ownOr(tile, tile, word);
+                const turned = layer.flagsAt(column, row) !== 0 && tagNameOf(word) === "heading";
+                const fault = turned ? "is turned; paint the tile of the other heading"
+                    : faultAt(word, column, row, tag);
+                if (fault) faults.push(`The tile at ${column}, ${row} ${fault}.`);
+                (lowerFirst.includes(word) ? falling : others)
+                    .push({ row, text: plainLine(word, column, row, tag) });
+            }
+        }
+    }
+    falling.sort((one, other) => other.row - one.row);
+    others.sort((one, other) => one.row - other.row);
+    return others.concat(falling).map(({ text }) => text);
+}
+
+function objectLines(layer, known, faults) {
+    const texts = [];
+    for (const object of layer.objects) {
+        const name = `The object ${object.id}`;
+        if (object.tile) {
+            texts.push(tileObjectLine(object, known, fault => faults.push(`${name} ${fault}.`)));
+        } else if (object.shape === MapObject.Text) {
+            const parts = splitLines(toBytes(object.text)).filter(({ text }) => !isBlank(text));
+            texts.push(...parts.map(({ text }) => text));
+        } else {
+            faults.push(`${name} is neither a tile nor a text.`);
+        }
+    }
+    for (const text of texts) {
+        if (isOpen(text) && !known.has(text))
+            faults.push(`The line ${text} opens a quote that it does not close.`);
+    }
+    return texts;
+}
+
+// An object may carry its line. That stands for as long as it fits the object, and when the author
+// has written another one; else the object tells.
+function tileObjectLine(object, known, refuse) {
+    const word = object.tile.type;
+    const tag = ownOr(object, object.tile, word);
+    const line = object.property("line");
+    if (line !== undefined) {
+        const text = toBytes(line);
+        if (!known.has(text) || fits(text, object, word, tag)) return text;
+    }
+    const column = Math.round(object.x / tileSize);
+    const row = Math.round(object.y / tileSize);
+    const beside = Math.max(Math.abs(object.x - column * tileSize),
+        Math.abs(object.y - row * tileSize));
+    if (beside > nearCell)
+        refuse(`(${word}) lies between cells, at ${object.x / tileSize}, ${object.y / tileSize}`);
+    const fault = faultAt(word, column, row, tag);
+    if (fault) refuse(fault);
+    return plainLine(word, column, row, tag);
+}
+
+function fits(text, object, word, tag) {
+    const said = objectOf(text);
+    if (!said || said.word !== word || said.tag !== tag) return false;
+    const { x, y } = placeOf(said);
+    return Math.abs(object.x - x) < samePlace && Math.abs(object.y - y) < samePlace;
+}
+
+// The heading or recipe, of the object if it has one of its own, else as its tile has it.
+function ownOr(object, tile, word) {
+    const name = isKind(word) ? tagNameOf(word) : "";
+    if (name === "") return "";
+    const own = object.property(name);
+    return toBytes(String(own !== undefined ? own : tile.property(name)));
+}
+
+// What is wrong with an object, to follow its name; "" if nothing is.
+function faultAt(word, column, row, tag) {
+    if (!isKind(word)) return "is none of the game's; take one from the tileset tumbledeep";
+    if (column < 0 || row < 0 || column >= drawnCells || row >= drawnCells)
+        return `(${word}) lies outside the grid, at ${column}, ${row}`;
+    if (tagNameOf(word) !== "" && !/^[^ ,\r\n]+$/.test(tag))
+        return `(${word}) needs a ${tagNameOf(word)} of one word without a comma`;
+    return "";
+}
