@@ -18,7 +18,7 @@ export function bytesOf(map) {
     const source = toBytes(map.property("source") || "");
     const mark = source.startsWith(byteOrderMark) ? byteOrderMark : "";
     const lines = splitLines(source.substring(mark.length));
-    const known = new Set(lines.map(line => line.text));
+    const known = countsOf(lines.map(line => line.text));
     const wanted = [];
     for (const layer of map.layers) {
         if (layer.isTileLayer) wanted.push(...tileLines(layer, faults));
@@ -42,26 +42,22 @@ function faultsOf(map) {
 // The lines of the source that are wanted, and then those wanted that it does not have. Blank lines
 // stay. A quote left open at the source's end stays the end, as it would take in all behind it.
 function merge(lines, wanted) {
-    const left = new Map();
-    const change = (text, by) => left.set(text, (left.get(text) || 0) + by);
-    for (const text of wanted) change(text, 1);
-    const kept = lines.filter(({ text }) => {
-        if (isBlank(text)) return true;
-        if (!left.get(text)) return false;
-        change(text, -1);
-        return true;
-    });
+    const left = countsOf(wanted);
+    const take = text => left[text] > 0 && left[text]-- > 0;
+    const kept = lines.filter(({ text }) => isBlank(text) || take(text));
     const end = lines.length > 0 && lines[0].end !== "" ? lines[0].end : "\n";
-    const added = [];
-    for (const text of wanted) {
-        if (!left.get(text)) continue;
-        change(text, -1);
-        added.push({ text, end });
-    }
+    const added = wanted.filter(take).map(text => ({ text, end }));
     const open = kept.length > 0 && isOpen(kept[kept.length - 1].text) ? kept.splice(-1) : [];
     if (added.length > 0 && kept.length > 0 && kept[kept.length - 1].end === "")
         kept[kept.length - 1].end = end;
     return kept.concat(added, open).map(({ text, end }) => text + end).join("");
+}
+
+// How often each text is there. An object serves, as a Map here is as slow as a list.
+function countsOf(texts) {
+    const counts = Object.create(null);
+    for (const text of texts) counts[text] = (counts[text] || 0) + 1;
+    return counts;
 }
 
 // From the top down, those that fall together from the bottom up.
@@ -103,7 +99,7 @@ function objectLines(layer, known, faults) {
         }
     }
     for (const text of texts) {
-        if (isOpen(text) && !known.has(text))
+        if (isOpen(text) && !known[text])
             faults.push(`The line ${text} opens a quote that it does not close.`);
     }
     return texts;
@@ -117,7 +113,7 @@ function tileObjectLine(object, known, refuse) {
     const line = object.property("line");
     if (line !== undefined) {
         const text = toBytes(line);
-        if (!known.has(text) || fits(text, object, word, tag)) return text;
+        if (!known[text] || fits(text, object, word, tag)) return text;
     }
     const column = Math.round(object.x / tileSize);
     const row = Math.round(object.y / tileSize);
