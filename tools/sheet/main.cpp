@@ -1,6 +1,8 @@
-// tumbledeep-sheet: writes the catalogue, or the icon alone, to a PNG file. Only the command line
-// is read here; the images are Sheet.h's and Image.h's.
+// tumbledeep-sheet: writes the catalogue, as a sheet or as the map editor's tiles, or the icon
+// alone to a PNG file. Only the command line is read here; the images are Sheet.h's, Tiles.h's and
+// Image.h's.
 #include "Sheet.h"
+#include "Tiles.h"
 
 #include <charconv>
 #include <exception>
@@ -19,11 +21,13 @@ constexpr int Failed = 2;
 constexpr int LargestScale = 64;
 constexpr int LargestIcon = 1024;
 constexpr std::string_view Usage = "usage: tumbledeep-sheet [--scale N] FILE.png\n"
-                                   "       tumbledeep-sheet --icon [--size N] FILE.png\n";
+                                   "       tumbledeep-sheet --icon [--size N] FILE.png\n"
+                                   "       tumbledeep-sheet --tiles FILE.png\n";
 
 struct Call {
     bool Help = false;
     bool Icon = false;
+    bool Tiles = false;
     int Scale = 1;
     int Size = 256;
     std::string File;
@@ -50,6 +54,8 @@ std::optional<Call> Parse(std::span<char* const> arguments) {
         }
         if (word == "--icon") {
             call.Icon = true;
+        } else if (word == "--tiles") {
+            call.Tiles = true;
         } else if (word == "--scale" || word == "--size") {
             const bool scale = word == "--scale";
             const auto number = NumberUpTo(next, scale ? LargestScale : LargestIcon);
@@ -63,7 +69,7 @@ std::optional<Call> Parse(std::span<char* const> arguments) {
             call.File = word;
         }
     }
-    const bool mixed = call.Icon ? scaled : sized;
+    const bool mixed = call.Tiles ? call.Icon || scaled || sized : call.Icon ? scaled : sized;
     return mixed || call.File.empty() ? std::nullopt : std::optional(call);
 }
 
@@ -77,7 +83,10 @@ int Run(std::span<char* const> arguments) {
         std::cout << Usage;
         return 0;
     }
-    WritePng(call->Icon ? IconImage(call->Size) : Enlarged(DrawSheet(), call->Scale), call->File);
+    WritePng(call->Tiles  ? DrawTiles()
+             : call->Icon ? IconImage(call->Size)
+                          : Enlarged(DrawSheet(), call->Scale),
+             call->File);
     return 0;
 }
 
