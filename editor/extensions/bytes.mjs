@@ -12,8 +12,10 @@ export function readBytes(fileName) {
     const bytes = new Uint8Array(file.readAll());
     file.close();
     const parts = [];
-    for (let start = 0; start < bytes.length; start += chunk)
-        parts.push(String.fromCharCode.apply(null, Array.from(bytes.subarray(start, start + chunk))));
+    for (let start = 0; start < bytes.length; start += chunk) {
+        const some = Array.from(bytes.subarray(start, start + chunk));
+        parts.push(String.fromCharCode.apply(null, some));
+    }
     return parts.join("");
 }
 

@@ -20,6 +20,7 @@ export function mapOf(bytes, tileset) {
     const map = new TileMap();
     map.setSize(Math.max(leastWidth, found.width), Math.max(leastHeight, found.height));
     map.setTileSize(tileSize, tileSize);
+    map.layerDataFormat = TileMap.CSV;
     map.backgroundColor = "#ffffff";
     map.addTileset(tileset);
     map.setProperty("source", found.source.join(""));

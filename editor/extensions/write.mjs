@@ -1,7 +1,7 @@
 // From a map of the editor to the bytes of a map. A line of the source that is still true keeps its
 // place, since the order of lines is the order of turns; what is no longer there goes, and what is
 // new comes last. What can't be written is refused by name, and then nothing is written.
-import { toBytes } from "./bytes.mjs";
+import { toBytes, toDisplay } from "./bytes.mjs";
 import { byteOrderMark, drawnCells, isBlank, isKind, isOpen, objectOf, plainLine, splitLines,
     tagNameOf } from "./lines.mjs";
 import { placeOf, tileSize } from "./read.mjs";
@@ -64,43 +64,53 @@ function countsOf(texts) {
 function tileLines(layer, faults) {
     const falling = [];
     const others = [];
+    for (const { column, row, tile, turned } of cellsOf(layer)) {
+        const word = tile.type;
+        const tag = ownOr(tile, tile, word);
+        const fault = turned && isKind(word) && tagNameOf(word) === "heading"
+            ? `(${word}) is turned; paint the tile of the other heading`
+            : faultAt(word, column, row, tag);
+        if (fault) faults.push(`The tile at ${column}, ${row} ${fault}.`);
+        (lowerFirst.includes(word) ? falling : others)
+            .push({ row, column, text: plainLine(word, column, row, tag) });
+    }
+    falling.sort((one, other) => other.row - one.row || one.column - other.column);
+    others.sort((one, other) => one.row - other.row || one.column - other.column);
+    return others.concat(falling).map(({ text }) => text);
+}
+
+function cellsOf(layer) {
+    const cells = [];
     for (const area of layer.region().rects) {
         for (let row = area.y; row < area.y + area.height; ++row) {
             for (let column = area.x; column < area.x + area.width; ++column) {
                 const tile = layer.tileAt(column, row);
-                if (!tile) continue;
-                const word = tile.type;
-                const tag = ownOr(tile, tile, word);
-                const turned = layer.flagsAt(column, row) !== 0 && tagNameOf(word) === "heading";
-                const fault = turned ? "is turned; paint the tile of the other heading"
-                    : faultAt(word, column, row, tag);
-                if (fault) faults.push(`The tile at ${column}, ${row} ${fault}.`);
-                (lowerFirst.includes(word) ? falling : others)
-                    .push({ row, text: plainLine(word, column, row, tag) });
+                const turned = layer.flagsAt(column, row) !== 0;
+                if (tile) cells.push({ column, row, tile, turned });
             }
         }
     }
-    falling.sort((one, other) => other.row - one.row);
-    others.sort((one, other) => one.row - other.row);
-    return others.concat(falling).map(({ text }) => text);
+    return cells;
 }
 
+// A text of several lines is as many lines of the map; blank ones do not count.
 function objectLines(layer, known, faults) {
     const texts = [];
     for (const object of layer.objects) {
         const name = `The object ${object.id}`;
+        let said = "";
         if (object.tile) {
-            texts.push(tileObjectLine(object, known, fault => faults.push(`${name} ${fault}.`)));
+            said = tileObjectLine(object, known, fault => faults.push(`${name} ${fault}.`));
         } else if (object.shape === MapObject.Text) {
-            const parts = splitLines(toBytes(object.text)).filter(({ text }) => !isBlank(text));
-            texts.push(...parts.map(({ text }) => text));
+            said = toBytes(object.text);
         } else {
             faults.push(`${name} is neither a tile nor a text.`);
         }
-    }
-    for (const text of texts) {
-        if (isOpen(text) && !known[text])
-            faults.push(`The line ${text} opens a quote that it does not close.`);
+        for (const { text } of splitLines(said)) {
+            if (!isBlank(text)) texts.push(text);
+            if (isOpen(text) && !known[text])
+                faults.push(`${name} opens a quote that it does not close: ${toDisplay(text)}.`);
+        }
     }
     return texts;
 }
