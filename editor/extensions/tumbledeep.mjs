@@ -9,7 +9,7 @@ const folder = FileInfo.path(FileInfo.path(FileInfo.canonicalPath(__filename)));
 const mostFaults = 10;
 
 function read(fileName) {
-    // Of a map read from a file the tileset stays a file of its own, shared by all maps.
+    // By way of a map the tileset stays a file of its own, which all open maps share.
     const tileset = tiled.mapFormat("tmx").read(folder + "/base.tmx").tilesets[0];
     return mapOf(readBytes(fileName), tileset);
 }

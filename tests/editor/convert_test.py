@@ -11,10 +11,11 @@ EDITOR = pathlib.Path(__file__).resolve().parents[2] / "editor"
 LEVELS = pathlib.Path(os.environ["TUMBLEDEEP_LEVELS"])
 
 ODD = (b'\xef\xbb\xbftitle \xe9\xff \\x41\r\n\r\n  dirt 0 0\rdirt 0 0\nyou 0 0,dirt 0 360\r\n'
-       b'dirt +360 0\ndirt 1e3 .5\nmovingmineP 0 360 X\nfactory 0 360 \ndirt 0 \n"title a,\r\nb" c\n'
-       b'title \xc3\xa4\t\x01\ndirt 108000 -360\nfactory 0 0 5:gem1type\n \n "open, \ndirt 0 0')
+       b'dirt +360 0\ndirt 1e3 .5\nmovingmineP 0 360 X\nfactory 0 360 \ndirt 0 \n"title a,\r\nb" c'
+       b'\ntitle \xc3\xa4\xef\xbf\xbe\t\x01\ndirt 108000 -360\nfactory 0 0 5:gem1type\n \n "open, \n'
+       b'dirt 0 0')
 
-EDITED = (b"title Old\ndirt 0 0\ndirt 0 360\nroundrock 0 720\nfactory 360 0 5:gem1type\n"
+EDITED = (b"title Old\ndirt 0 0\ndirt 0 360\nroundrock 0 720\nfactory 0360 0 5:gem1type\n"
           b"harddirt 100 200\nyou 0 720\n\nrem \xff")
 
 # What is replaced in the editor's file, and the map that comes of it.
@@ -26,7 +27,7 @@ EDITS = (
      b"".join(b"roundrock %d 0\nroundrock %d 6840\n" % (row * 360, row * 360)
               for row in range(12, 0, -1)) + b"roundrock 0 6840\n"),
     ("recipe", [('value="5:gem1type"', 'value="9:bang"')],
-     EDITED.replace(b"factory 360 0 5:gem1type\n", b"") + b"\nfactory 360 0 9:bang\n"),
+     EDITED.replace(b"factory 0360 0 5:gem1type\n", b"") + b"\nfactory 360 0 9:bang\n"),
     ("move", [('x="13.3333" y="6.66667"', 'x="50" y="23"')],
      EDITED.replace(b"harddirt 100 200\n", b"") + b"\nharddirt 360 720\n"),
     ("a line of one's own", [('value="harddirt 100 200"', 'value="harddirt 7 8"')],
@@ -70,7 +71,7 @@ class Convert(unittest.TestCase):
                 self.assertEqual(self.map.read_bytes(), content)
 
     def test_edits(self):
-        drawn = self.draw(EDITED)
+        drawn = self.draw(EDITED.replace(b"\n", b"\r\n"))
         for name, changes, expected in EDITS:
             with self.subTest(name):
                 text = drawn
@@ -79,7 +80,13 @@ class Convert(unittest.TestCase):
                     text = text.replace(old, new)
                 self.drawn.write_text(text, encoding="utf-8")
                 self.convert(self.drawn, self.map)
-                self.assertEqual(self.map.read_bytes(), expected)
+                self.assertEqual(self.map.read_bytes(), expected.replace(b"\n", b"\r\n"))
+
+    def test_new_lines_stand_before_an_open_quote(self):
+        drawn = self.draw(b'dirt 0 0\n"open')
+        self.drawn.write_text(drawn.replace("3,0,", "1,0,", 1), encoding="utf-8")
+        self.convert(self.drawn, self.map)
+        self.assertEqual(self.map.read_bytes(), b'you 0 0\n"open')
 
     def test_refusals_tell_why_and_write_nothing(self):
         drawn = self.draw(EDITED)
