@@ -12,8 +12,8 @@ LEVELS = pathlib.Path(os.environ["TUMBLEDEEP_LEVELS"])
 
 ODD = (b'\xef\xbb\xbftitle \xe9\xff \\x41\r\n\r\n  dirt 0 0\rdirt 0 0\nyou 0 0,dirt 0 360\r\n'
        b'dirt +360 0\ndirt 1e3 .5\nmovingmineP 0 360 X\nfactory 0 360 \ndirt 0 \n"title a,\r\nb" c'
-       b'\ntitle \xc3\xa4\xef\xbf\xbe\t\x01\ndirt 108000 -360\nfactory 0 0 5:gem1type\n \n "open, \n'
-       b'dirt 0 0')
+       b'\ntitle \xc3\xa4\xef\xbf\xbe\t\x01\ndirt 108000 -360\nfactory 0 0 5:gem1type\n \n'
+       b' "open, \ndirt 0 0')
 
 EDITED = (b"title Old\ndirt 0 0\ndirt 0 360\nroundrock 0 720\nfactory 0360 0 5:gem1type\n"
           b"harddirt 100 200\nyou 0 720\n\nrem \xff")
