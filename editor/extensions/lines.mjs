@@ -78,8 +78,8 @@ export function objectOf(text) {
     return isFinite(top) && isFinite(left) ? { word, top, left, tag: tagged ? last : "" } : null;
 }
 
-// The line of an object on a cell, as a map usually has it.
-export function plainLine(word, column, row, tag) {
-    const text = `${word} ${row * twips} ${column * twips}`;
+// The line of an object as a map usually has it; the place is in twips.
+export function plainLine(word, top, left, tag) {
+    const text = `${word} ${top} ${left}`;
     return tag === "" ? text : `${text} ${tag}`;
 }

@@ -59,7 +59,7 @@ function sortOut(bytes, tileOf) {
         const row = object.top / twips;
         const tile = tileOf[`${object.word} ${object.tag}`];
         const drawn = isDrawn(column) && isDrawn(row);
-        const plain = drawn && plainLine(object.word, column, row, object.tag) === line.text;
+        const plain = drawn && isPlain(object, line.text);
         if (drawn) {
             found.width = Math.max(found.width, column + 1);
             found.height = Math.max(found.height, row + 1);
@@ -73,6 +73,10 @@ function sortOut(bytes, tileOf) {
         }
     }
     return found;
+}
+
+function isPlain({ word, top, left, tag }, text) {
+    return plainLine(word, top, left, tag) === text;
 }
 
 function isDrawn(place) {

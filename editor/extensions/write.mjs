@@ -3,8 +3,9 @@
 // new comes last. What can't be written is refused by name, and then nothing is written.
 import { toBytes, toDisplay } from "./bytes.mjs";
 import { byteOrderMark, drawnCells, isBlank, isKind, isOpen, objectOf, plainLine, splitLines,
-    tagNameOf } from "./lines.mjs";
+    tagNameOf, twips } from "./lines.mjs";
 import { placeOf, tileSize } from "./read.mjs";
+import { followShift } from "./shift.mjs";
 
 const samePlace = 0.02; // pixels; a twip is 1/15
 const nearCell = 6; // pixels; how far beside its cell an object may lie
@@ -41,8 +42,9 @@ function faultsOf(map) {
 
 // The lines of the source that are wanted, and then those wanted that it does not have. Blank lines
 // stay. A quote left open at the source's end stays the end, as it would take in all behind it.
-function merge(lines, wanted) {
+function merge(source, wanted) {
     const left = countsOf(wanted);
+    const lines = followShift(source, wanted, left);
     const take = text => left[text] > 0 && left[text]-- > 0;
     const kept = lines.filter(({ text }) => isBlank(text) || take(text));
     const end = lines.length > 0 && lines[0].end !== "" ? lines[0].end : "\n";
@@ -72,7 +74,7 @@ function tileLines(layer, faults) {
             : faultAt(word, column, row, tag);
         if (fault) faults.push(`The tile at ${column}, ${row} ${fault}.`);
         (lowerFirst.includes(word) ? falling : others)
-            .push({ row, column, text: plainLine(word, column, row, tag) });
+            .push({ row, column, text: plainLine(word, row * twips, column * twips, tag) });
     }
     falling.sort((one, other) => other.row - one.row || one.column - other.column);
     others.sort((one, other) => one.row - other.row || one.column - other.column);
@@ -116,24 +118,36 @@ function objectLines(layer, known, faults) {
 }
 
 // An object may carry its line. That stands for as long as it fits the object, and when the author
-// has written another one; else the object tells.
+// has written another one; else the object tells. One between cells may move by whole cells.
 function tileObjectLine(object, known, refuse) {
     const word = object.tile.type;
     const tag = ownOr(object, object.tile, word);
     const line = object.property("line");
-    if (line !== undefined) {
-        const text = toBytes(line);
-        if (!known[text] || fits(text, object, word, tag)) return text;
-    }
-    const column = Math.round(object.x / tileSize);
-    const row = Math.round(object.y / tileSize);
-    const beside = Math.max(Math.abs(object.x - column * tileSize),
-        Math.abs(object.y - row * tileSize));
-    if (beside > nearCell)
+    const text = line === undefined ? "" : toBytes(line);
+    if (line !== undefined && (!known[text] || fits(text, object, word, tag))) return text;
+    const stood = objectOf(text) || { top: 0, left: 0 };
+    const place = nearestPlace(object, { top: 0, left: 0 }, nearCell)
+        || nearestPlace(object, stood, samePlace);
+    if (!place) {
         refuse(`(${word}) lies between cells, at ${object.x / tileSize}, ${object.y / tileSize}`);
-    const fault = faultAt(word, column, row, tag);
+        return "";
+    }
+    const { top, left } = place;
+    const fault = faultAt(word, Math.floor(left / twips), Math.floor(top / twips), tag);
     if (fault) refuse(fault);
-    return plainLine(word, column, row, tag);
+    return plainLine(word, top, left, tag);
+}
+
+// The place in twips that is whole cells away from another one, if the object is so many pixels
+// near to one.
+function nearestPlace(object, from, near) {
+    const { x, y } = placeOf(from);
+    const columns = Math.round((object.x - x) / tileSize);
+    const rows = Math.round((object.y - y) / tileSize);
+    const beside = Math.max(Math.abs(object.x - x - columns * tileSize),
+        Math.abs(object.y - y - rows * tileSize));
+    if (beside > near) return null;
+    return { top: from.top + rows * twips, left: from.left + columns * twips };
 }
 
 function fits(text, object, word, tag) {

@@ -26,6 +26,10 @@ EDITS = (
      EDITED.replace(b"roundrock 0 720\n", b"") + b"\nroundrock 4680 0\n" +
      b"".join(b"roundrock %d 0\nroundrock %d 6840\n" % (row * 360, row * 360)
               for row in range(12, 0, -1)) + b"roundrock 0 6840\n"),
+    ("move of all", [("3,3,5,0,", "0,3,3,5,"), ('x="48"', 'x="72"'), ('"13.3333"', '"37.3333"')],
+     EDITED.replace(b"dirt 0 360\n", b"dirt 0 720\n").replace(b"dirt 0 0\n", b"dirt 0 360\n")
+     .replace(b"rock 0 720", b"rock 0 1080").replace(b"you 0 720", b"you 0 1080")
+     .replace(b"100 200", b"100 560")),
     ("recipe", [('value="5:gem1type"', 'value="9:bang"')],
      EDITED.replace(b"factory 0360 0 5:gem1type\n", b"") + b"\nfactory 360 0 9:bang\n"),
     ("move", [('x="13.3333" y="6.66667"', 'x="50" y="23"')],
@@ -37,7 +41,7 @@ EDITS = (
 )
 REFUSED = (
     ('x="13.3333"', 'x="36"', "between cells"),
-    ('x="13.3333"', 'x="-24"', "outside the grid"),
+    ('x="48"', 'x="-24"', "outside the grid"),
     ("3,3,5,", "2147483659,3,5,", "turned"),
     ("3,3,5,", "8,3,5,", "tileset"),
     ('value="5:gem1type"', 'value="5 gem1type"', "recipe"),
