@@ -2,7 +2,7 @@
 // heading. The tiles' names and numbers are in editor/tumbledeep.tsx.
 #pragma once
 
-#include "Image.h"
+#include "image/Image.h"
 
 namespace tumbledeep {
 
