@@ -47,6 +47,8 @@ std::optional<Finding> NameFinding(const fs::path& folder, const Record& record)
     }
     const fs::path file = folder / HostPath(FileOf(name));
     if (!IsThere(file)) {
+        // A folder of pictures has its list beside them, for the maps that are made of them.
+        if (IsThere(folder / HostPath(name + ".txt"))) return std::nullopt;
         return Error(record.Line, {"there is no map ", Quoted(FileOf(name)), " beside the list"},
                      {"mend the name, or put the map there"});
     }
