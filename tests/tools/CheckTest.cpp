@@ -130,7 +130,8 @@ TEST(Check, OddMapsWithoutFault) {
              Row{"factory 360 720 1:gem1type\nfactory 360 1080 9;bang\ndirt 3.6e3 +3600,\n", ""},
              Row{"harddirt 360 720\n", "10w cell counts as harddirt"},
              Row{"", "", " #####/#@O *#/######"}, // a corner is missing
-             Row{"", "", "#####/#*  #/#O  #/##..#/##@##/#####"},
+             Row{"", "", "######/##@###/##O *#/##O  #/######"},
+             Row{"", "", "####/#@##/#O*#/#  #/####"},
              Row{"factory 360 720 1:bang\n", "", "#####/#@O*#/#####"},
          }) {
         const std::string bytes = "\xEF\xBB\xBF" + Map(text, picture);
