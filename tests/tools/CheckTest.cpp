@@ -62,7 +62,7 @@ dirt -> e write the name, Top|dirt 0~360 -> e place of the tab|"dirt 0,5 360" ->
 dirt 1e39 0 -> e failure 6|movingmineT 0 0 U -> e take "U" away|dirt 3600 -> w both Top and Left
 dirt 3600 5 3960 -> w Left
 movingmineL 1080 0 u -> w "u" is no heading: the mine stands still; write U
-movingmineL 1080 360 -> w heading is missing|movingmineL 1080 720 U  -> w hides the heading
+movingmineL 1080 360  -> w heading is missing|movingmineL 1080 720 U  -> w hides the heading
 movingmineL 1080 1080 U up -> w behind the heading U|title -> w no text
 factory 1440 0 gem1type -> e begin with a digit|factory 1440 360 5gem1type -> e write 5:gem1type
 factory 1440 720 10:dirt -> e more than one digit|factory 1440 1080 1:rock -> e "roundrock"
@@ -74,8 +74,8 @@ xyzzy 5 5 -> e lines begin with|Some prose -> w rem|Dirt is soft -> w rem
 title Down, down, down -> w "down" is lost; put the whole line
 rem a, dirt 1800 0 -> e a line of its own; put the whole line
 dirt 1800,1800 -> e a blank between numbers|dirt 1800 360,dirt 1800 720 -> w each object on a line
-"title a" b -> w "b" behind|dirt 360 1085 -> w between two cells; the nearest is column 4, row 2
-roundrock 0 108000 -> e outside the board|dirt 0 -360 -> w out of sight|you 0 720 -> w line 48 too)";
+"title a" b -> w "b" behind
+roundrock 0 108000 -> e outside the board|dirt 0 -360 -> w out of sight|you 0 720 -> w line 47 too)";
 
 /// The row of the table above.
 Row FaultsRow() {
@@ -113,6 +113,8 @@ TEST(Check, MapsWithFaults) {
              Row{"", "1e outside the walls", "@*"},
              Row{"", "13w 2 objects, from this one on, stand outside", "####/#@*#/####/OO"},
              Row{"", "9e column 4, row 2|13e column 3, row 3", "#####/#@#*#/##*##/#####"},
+             Row{"roundrock 360 1445\n", "1w between two cells; the nearest is column 5, row 2",
+                 "######/#@#* #/######"}, // so that nothing is said of the gem
              Row{"", "9e no play can get the gem", "#####/#@O*#/#####"}, // the rock is stuck
          }) {
         const std::string bytes = Map(text, picture);
@@ -130,11 +132,13 @@ TEST(Check, OddMapsWithoutFault) {
              Row{"factory 360 720 1:gem1type\nfactory 360 1080 9;bang\ndirt 3.6e3 +3600,\n", ""},
              Row{"harddirt 360 720\n", "10w cell counts as harddirt"},
              Row{"", "", " #####/#@O *#/######"}, // a corner is missing
-             Row{"", "", "######/##@###/##O *#/##O  #/######"},
+             Row{"", "", "######/##@###/##O *#/##*  #/######"},
              Row{"", "", "####/#@##/#O*#/#  #/####"},
+             Row{"", "", "######/#@####/# #*##/# #O##/#  .##/######"},
+             Row{"", "", "######/#OO@##/# ####/#  *##/# ####/# ####/######"},
              Row{"factory 360 720 1:bang\n", "", "#####/#@O*#/#####"},
          }) {
-        const std::string bytes = "\xEF\xBB\xBF" + Map(text, picture);
+        const std::string bytes = Map(text, picture);
         folder.Write("m, n.TBM", bytes);
         Expect(folder.Path / "m, n.TBM", bytes, wanted);
     }
@@ -149,7 +153,9 @@ TEST(Check, Lists) {
              Row{"a\n\nd\n\n", "2e blank line|4w after the last map"},
              Row{"x\nA\na.TBM\na \n", "1e no map|2w file is \"a\"|3e extension|4e ends in a blank"},
              Row{"a\nd\na\n", "3w in line 1"},
-             Row{"b, c\n\"a\" x\n\"d\n", "1e comma|2w \"x\" behind|3e never closed"},
+             Row{"\xEF\xBB\xBF"
+                 "b, c\n\"a\" x\n\"d\n",
+                 "1e comma|2w \"x\" behind|3e never closed"},
          }) {
         folder.Write("l.tbl", text);
         Expect(folder.Path / "l.tbl", text, wanted);
