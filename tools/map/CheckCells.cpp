@@ -41,15 +41,15 @@ Finding CrowdFinding(const CheckedMap& map, const Crowd& crowd) {
     const std::string firstLine = std::to_string(first.Line);
     if (crowd.Count == 2 && AreSame(first, second)) {
         return Warning(second.Line,
-                       {"the same ", KindText(second.Which), " stands in line ", firstLine, " too"},
+                       {"the same ", NameOf(second.Which), " stands in line ", firstLine, " too"},
                        {"take one of the two lines away"});
     }
     const Kind owner = map.Start.Area(first.At());
     const std::string reads =
-        owner == Kind::Empty ? "is empty for the rules" : Joined({"counts as ", KindText(owner)});
+        owner == Kind::Empty ? "is empty for the rules" : Joined({"counts as ", NameOf(owner)});
     const std::string who =
-        crowd.Count == 2 ? Joined({"the ", KindText(second.Which), " shares its cell with the ",
-                                   KindText(first.Which), " of line ", firstLine})
+        crowd.Count == 2 ? Joined({"the ", NameOf(second.Which), " shares its cell with the ",
+                                   NameOf(first.Which), " of line ", firstLine})
                          : Joined({std::to_string(crowd.Count),
                                    " objects share one cell, the first in line ", firstLine});
     return Warning(second.Line, {who, ", and the cell ", reads},

@@ -9,7 +9,7 @@ namespace tumbledeep {
 namespace {
 
 void CheckPlace(Findings& found, const MapObject& object) {
-    const std::string_view name = KindText(object.Which);
+    const std::string_view name = NameOf(object.Which);
     const Cell cell = object.At();
     if (!cell.InGrid()) {
         found.push_back(Error(object.Line, {"the ", name, " stands outside the board"},

@@ -43,6 +43,9 @@ struct CheckedMap {
 /// The source has to outlive the map.
 CheckedMap ReadChecked(const MapSource& source);
 
+/// The kind as a finding names it.
+inline std::string_view NameOf(Kind kind) { return kind == Kind::You ? "player" : KindText(kind); }
+
 /// Whether a cell is one that maps draw: columns and rows 1 to 300.
 bool IsDrawn(Cell cell);
 
