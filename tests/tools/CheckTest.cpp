@@ -1,7 +1,7 @@
 // What the check of maps and lists finds, and on which of them it has nothing to say. A row of a
 // table is a small file and what has to be said of it: all of that, by lines, and no more. "3e no
 // gem" is an error in line 3 with these words in it, "3w" a warning.
-#include "map/Checks.h"
+#include "map/check/Checks.h"
 #include "soak/RandomGame.h"
 #include "support/TempFolder.h"
 

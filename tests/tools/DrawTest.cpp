@@ -1,7 +1,7 @@
 // A board drawn into an image: places, order and edges. That it is what the window shows can only
 // be seen on a screen.
 #include "formats/LoadMap.h"
-#include "map/BoardImage.h"
+#include "map/draw/BoardImage.h"
 #include "pictures/Catalogue.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // A map's figures, and what is said of a map that can't be loaded.
-#include "map/MapInfo.h"
+#include "map/info/MapInfo.h"
 #include "support/TempFolder.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
-// The commands of tumbledeep-map, each in a file of its name. A command gets the words behind its
-// own and returns the exit status; what it prints goes to standard output. The table of them is in
-// main.cpp.
+// The commands of tumbledeep-map, each in a file or folder of its name. A command gets the words
+// behind its own and returns the exit status; what it prints goes to standard output. The table of
+// them is in main.cpp.
 #pragma once
 
 #include <span>

@@ -1,8 +1,8 @@
 // Holes in the outer wall: ways that lead the player out of the rectangle in which all walls lie,
 // and objects that stand outside. A corner that is missing is no hole.
-#include "map/Checks.h"
+#include "map/check/Checks.h"
 
-#include "map/Ground.h"
+#include "map/check/Ground.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // How the folder is filled. Links let an edit show at the next try, and let a win lead on.
-#include "map/PlayFolder.h"
+#include "map/play/PlayFolder.h"
 
 #include "base/Failure.h"
 #include "base/Text.h"

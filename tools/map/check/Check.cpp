@@ -1,7 +1,7 @@
 // The command that tells every doubt about maps and lists: a line of output for each, as compilers
 // write theirs. What is doubtful is told in Checks.h.
-#include "map/Checks.h"
 #include "map/Commands.h"
+#include "map/check/Checks.h"
 
 #include <algorithm>
 #include <iostream>

@@ -6,9 +6,9 @@
 // to it. Either only ever comes to be true, and makes others true, until nothing changes. Where
 // things move to need not be followed: they only move to cells that may be empty, where the player
 // walks anyway, and from which nothing else can keep him.
-#include "map/Checks.h"
+#include "map/check/Checks.h"
 
-#include "map/Ground.h"
+#include "map/check/Ground.h"
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,5 @@
 // How a board is made of a map that may be faulty: lines that would end the loading are left out.
-#include "map/CheckedMap.h"
+#include "map/check/CheckedMap.h"
 
 #include <algorithm>
 #include <cmath>

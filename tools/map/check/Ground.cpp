@@ -1,5 +1,5 @@
 // Walls come from the board's grid, and lose those cells that something else stands on unmarked.
-#include "map/Ground.h"
+#include "map/check/Ground.h"
 
 namespace tumbledeep {
 

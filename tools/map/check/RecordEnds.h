@@ -3,7 +3,7 @@
 #pragma once
 
 #include "formats/FieldInput.h"
-#include "map/Finding.h"
+#include "map/check/Finding.h"
 
 #include <string_view>
 #include <vector>

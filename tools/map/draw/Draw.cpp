@@ -2,10 +2,10 @@
 // file by the game's own drawings.
 #include "formats/MapText.h"
 #include "formats/TextPicture.h"
-#include "map/BoardImage.h"
 #include "map/Commands.h"
 #include "map/LoadSource.h"
 #include "map/MapCall.h"
+#include "map/draw/BoardImage.h"
 
 #include <cmath>
 #include <iostream>

@@ -1,8 +1,8 @@
 // What the factories of a map make, and why some make nothing.
-#include "map/Checks.h"
+#include "map/check/Checks.h"
 
 #include "base/Text.h"
-#include "map/NearMiss.h"
+#include "map/check/NearMiss.h"
 
 #include <algorithm>
 #include <set>

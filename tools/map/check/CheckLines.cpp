@@ -1,5 +1,5 @@
 // What is wrong with the words behind a first word that the game knows.
-#include "map/Checks.h"
+#include "map/check/Checks.h"
 
 #include "base/Failure.h"
 #include "base/Number.h"

@@ -9,7 +9,7 @@
 //     load_ms            reading the file and setting up the board
 //     worst_tick         tick (from 1) and ms of the longest in the first minute
 //     first_minute       end ("running", "won" or "died") and ticks that ran, no key touched
-#include "map/MapInfo.h"
+#include "map/info/MapInfo.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,5 +1,5 @@
 // Counting, measuring, and a minute of play without a hand on the keys.
-#include "map/MapInfo.h"
+#include "map/info/MapInfo.h"
 
 #include "formats/MapText.h"
 #include "map/LoadSource.h"

@@ -1,5 +1,5 @@
 // Map lists: names that lead nowhere, and whether the list of a folder leads to a map.
-#include "map/Checks.h"
+#include "map/check/Checks.h"
 
 #include "base/Text.h"
 #include "formats/MapList.h"

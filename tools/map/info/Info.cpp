@@ -1,7 +1,7 @@
 // A map's figures in words. What they are is MapInfo.h's.
 #include "map/Commands.h"
 #include "map/MapCall.h"
-#include "map/MapInfo.h"
+#include "map/info/MapInfo.h"
 
 #include <iomanip>
 #include <iostream>

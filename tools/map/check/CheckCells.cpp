@@ -1,5 +1,5 @@
 // Objects that share a cell. One finding for each cell, however many stand there.
-#include "map/Checks.h"
+#include "map/check/Checks.h"
 
 #include <map>
 

@@ -1,6 +1,6 @@
 // Players, gems, and where objects stand: on the pitch of cells, and on the part of the board that
 // is drawn.
-#include "map/Checks.h"
+#include "map/check/Checks.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 // Nothing is printed here. Only what needs files beside the one that is checked takes a path.
 #pragma once
 
-#include "map/CheckedMap.h"
-#include "map/Finding.h"
+#include "map/check/CheckedMap.h"
+#include "map/check/Finding.h"
 
 #include <filesystem>
 #include <optional>

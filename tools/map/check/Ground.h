@@ -2,7 +2,7 @@
 // the search for gems ask it.
 #pragma once
 
-#include "map/CheckedMap.h"
+#include "map/check/CheckedMap.h"
 
 #include <vector>
 

@@ -1,5 +1,5 @@
 // Which checks a file gets, by what it is and how far it can be read.
-#include "map/Checks.h"
+#include "map/check/Checks.h"
 
 #include <algorithm>
 

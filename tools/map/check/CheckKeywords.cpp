@@ -1,9 +1,9 @@
 // Which lines that say nothing are comments, and which are objects with a slip in their name.
-#include "map/Checks.h"
+#include "map/check/Checks.h"
 
 #include "base/Number.h"
 #include "base/Text.h"
-#include "map/NearMiss.h"
+#include "map/check/NearMiss.h"
 
 namespace tumbledeep {
 

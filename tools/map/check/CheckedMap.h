@@ -4,7 +4,7 @@
 
 #include "formats/LoadMap.h"
 #include "map/MapSource.h"
-#include "map/RecordEnds.h"
+#include "map/check/RecordEnds.h"
 
 #include <array>
 #include <string>

@@ -1,6 +1,6 @@
 // Commas that end a line where its author has not thought of it. The parts of one line make one
 // finding.
-#include "map/Checks.h"
+#include "map/check/Checks.h"
 
 #include "base/Number.h"
 

@@ -1,10 +1,10 @@
 // Starts the game that lies beside this program on one map, in a folder of its own, so that no
 // settings of the player's change.
 #include "map/Commands.h"
-#include "map/GameRun.h"
 #include "map/MapCall.h"
 #include "map/MapSource.h"
-#include "map/PlayFolder.h"
+#include "map/play/GameRun.h"
+#include "map/play/PlayFolder.h"
 
 #include <filesystem>
 

@@ -1,6 +1,6 @@
 // Processes by POSIX and, for those whose parent has ended, by Linux: they become children of this
 // one. All are in a process group of their own, by which signals reach them.
-#include "map/GameRun.h"
+#include "map/play/GameRun.h"
 
 #include <cstring>
 #include <spawn.h>

@@ -1,5 +1,5 @@
 // Painting from the catalogue, sprite by sprite, cut at the board's edges.
-#include "map/BoardImage.h"
+#include "map/draw/BoardImage.h"
 
 #include "pictures/Catalogue.h"
 #include "pictures/DevicePixels.h"

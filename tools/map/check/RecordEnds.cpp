@@ -1,5 +1,5 @@
 // How the end of a record is found again from its line and column, and what is said of quotes.
-#include "map/RecordEnds.h"
+#include "map/check/RecordEnds.h"
 
 #include "base/Text.h"
 
