@@ -79,7 +79,8 @@ const char* UsageText() {
            "  --help      this text\n"
            "  --version   the program's version\n"
            "\n"
-           "Keys: w a s d or the arrow keys to walk, dig and push, p to pause.\n";
+           "Keys: w a s d or the arrow keys to walk, dig and push, p to pause.\n"
+           "Maps of your own are checked and tried by tumbledeep-map; docs/MAPS.md tells how.\n";
 }
 
 std::string CommandText(const std::string& argument, const fs::path& directory) {
