@@ -12,15 +12,9 @@ namespace tumbledeep {
 
 namespace {
 
-constexpr std::string_view HeadingLetters = "UDLR";
-
-bool IsHeading(std::string_view word) {
-    return word.size() == 1 && HeadingLetters.find(word) != std::string_view::npos;
-}
+bool IsHeading(std::string_view word) { return HeadingNamed(word).has_value(); }
 
 bool IsNumber(std::string_view word) { return IsWhole(ReadNumber(word), word); }
-
-TagUse TagOf(Kind kind) { return kind == Kind::You ? TagUse::None : RowOf(kind).Tag; }
 
 /// The words of a line, without the empty ones.
 std::vector<std::string_view> WordsOf(std::string_view text) {
@@ -105,7 +99,7 @@ void CheckHeading(Findings& found, const MapLine& line, std::string_view text) {
 /// Words between those that the game looks at, and a single number for both places.
 void CheckWords(Findings& found, const MapLine& line, std::string_view text) {
     const auto words = WordsOf(text);
-    const std::size_t wanted = TagOf(line.Which) == TagUse::None ? 3 : 4;
+    const std::size_t wanted = HasTag(line.Which) ? 4 : 3;
     const std::string_view name = KindText(line.Which);
     if (words.size() > wanted) {
         found.push_back(
@@ -140,7 +134,8 @@ Findings CheckLines(const CheckedMap& map) {
             isFirst = false;
             continue;
         }
-        if (TagOf(line.Which) == TagUse::Heading && !IsHeading(line.Text)) {
+        const bool isHeaded = HasTag(line.Which) && line.Which != Kind::Factory;
+        if (isHeaded && !IsHeading(line.Text)) {
             CheckHeading(found, line, text);
         } else if (!map.Ends[i].ByComma) {
             CheckWords(found, line, text);
