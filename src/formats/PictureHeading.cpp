@@ -5,10 +5,12 @@
 #include "base/Number.h"
 #include "base/Text.h"
 #include "formats/MapText.h"
+#include "formats/NearMiss.h"
 #include "formats/TextPicture.h"
 #include "world/Pool.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace tumbledeep {
@@ -23,6 +25,41 @@ constexpr std::string_view Continued = "| ";
 /// Behind a key word, all that stands after the one blank.
 std::string_view Behind(std::string_view line, std::string_view word) {
     return line.substr(std::min(line.size(), word.size() + 1));
+}
+
+std::string InQuotes(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
+std::string NoNumber(const std::string& word) {
+    if (word.empty()) return "a number is missing, or there are two blanks in a row";
+    return InQuotes(word) + " is no number";
+}
+
+std::string NoObject(std::string_view word) {
+    std::string text = "no object of a map is called " + InQuotes(word);
+    const std::string_view meant = NearMiss(word, Keywords());
+    return meant.empty() ? text : text + "; did you mean " + InQuotes(meant);
+}
+
+/// Of a line that a heading can't have: what its author was about, as far as can be guessed.
+std::string WhatIsWrong(std::string_view text) {
+    static constexpr std::array<std::string_view, 4> words{"board", "title", "rem", "order"};
+    const std::string_view word = WordAt(text, 1);
+    if (text.front() == ' ') return "a line of the heading begins without blanks";
+    if (text.find_first_not_of("#.*O ") == std::string_view::npos) {
+        return "this looks like a row of cells; rows stand below a line \"board\"";
+    }
+    if (KindNamed(word)) {
+        return "a line of a map has \"+ \" in front here; if this is a map and no picture, give "
+               "it a name that ends in .TBM";
+    }
+    if (text.find('=') != std::string_view::npos) {
+        return "a mark is one character, with \" = \" behind it, as in \"L = movingmineL U\"";
+    }
+    const std::string_view meant = NearMiss(Trimmed(word, ":"), words);
+    if (!meant.empty()) return "did you mean " + InQuotes(meant) + " and not " + InQuotes(word);
+    return "a heading has lines such as \"L = movingmineL U\", title, rem, order, + and board, "
+           "not " +
+           InQuotes(text.substr(0, 60));
 }
 
 class Reader {
@@ -46,9 +83,7 @@ class Reader {
         } else if (word.starts_with('+')) {
             Extra(word.substr(1), Behind(text, word), static_cast<int>(word.size()) + 2);
         } else {
-            Fail("a heading has lines such as \"L = movingmineL U\", title, rem, order, + and "
-                 "board, not \"" +
-                 line.Text + "\"");
+            Fail(WhatIsWrong(text));
         }
     }
 
@@ -58,10 +93,9 @@ class Reader {
 
   private:
     void Mark(char mark, std::string_view meaning) {
-        if (own.find(mark) != std::string::npos) {
+        if (!heading.MarkLines.emplace(mark, at).second) {
             Fail(std::string("the mark ") + mark + " has a meaning already");
         }
-        own += mark;
         MarkedCell cell;
         while (true) {
             const std::size_t comma = meaning.find(',');
@@ -74,14 +108,12 @@ class Reader {
 
     MarkedObject Meant(std::string_view text) const {
         const std::string_view word = WordAt(text, 1);
-        const std::string_view tag = Behind(text, word);
+        const std::string_view tag = Trimmed(Behind(text, word));
         const auto kind = KindNamed(word);
-        if (!kind || *kind == Kind::Bang) {
-            Fail("no object of a map is called \"" + std::string(word) + "\"");
-        }
+        if (!kind || *kind == Kind::Bang) Fail(NoObject(word));
         const bool factory = *kind == Kind::Factory;
         if (HasTag(*kind) && !IsPlainTag(tag)) {
-            Fail(std::string(word) + (factory ? " needs one recipe, such as 5:roundrock"
+            Fail(std::string(word) + (factory ? " needs one recipe without blanks, as 5:roundrock"
                                               : " needs one heading, U, D, L or R"));
         }
         if (!HasTag(*kind) && !tag.empty()) {
@@ -113,7 +145,7 @@ class Reader {
         }
         Record record = MapRecord(std::string(text), column);
         const MapLine line = ReadMapLine(record);
-        if (line.Fault) Fail("\"" + line.Fault->Word + "\" is no number");
+        if (line.Fault) Fail(NoNumber(line.Fault->Word));
         if (line.What == MapLine::Is::Object) {
             heading.Extras.push_back({index, line.Which, std::move(record)});
         } else if (index) {
@@ -130,7 +162,6 @@ class Reader {
 
     const std::string& name;
     int at = 1;
-    std::string own; ///< the marks that the heading has given a meaning
 };
 
 } // namespace
@@ -140,7 +171,10 @@ PictureHeading TakeHeading(const std::string& name, std::deque<PictureLine>& lin
     while (!lines.empty()) {
         PictureLine line = std::move(lines.front());
         lines.pop_front();
-        if (Trimmed(line.Text) == "board") return std::move(reader.heading);
+        if (Trimmed(line.Text) == "board") {
+            reader.heading.BoardLine = line.Line;
+            return std::move(reader.heading);
+        }
         if (Trimmed(line.Text).empty()) continue;
         for (; !lines.empty() && lines.front().Text.starts_with(Continued); lines.pop_front()) {
             line.Text.append("\n").append(lines.front().Text.substr(Continued.size()));

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <deque>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -28,9 +29,11 @@ struct ExtraLine {
 
 struct PictureHeading {
     Legend Marks = DefaultLegend();
+    std::map<char, int> MarkLines;            ///< of the marks that the heading gives a meaning
     std::array<RowOrder, KindCount> Orders{}; ///< by kind
     std::vector<Record> Talk;                 ///< titles, comments, and what the game passes over
     std::vector<ExtraLine> Extras;            ///< in their order
+    int BoardLine = 0;                        ///< the line `board`
 };
 
 /// Takes the heading's lines off the front, the line `board` too. Throws PictureFault, naming the

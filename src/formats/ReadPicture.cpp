@@ -50,26 +50,27 @@ struct KindLines {
 class PictureReader {
   public:
     PictureReader(const std::string& fileName, const std::string& bytes) : name(fileName) {
-        std::deque<PictureLine> lines = LinesOf(bytes);
-        heading = TakeHeading(name, lines);
-        while (!lines.empty() && Trimmed(lines.back().Text).empty()) lines.pop_back();
-        if (lines.size() > MostCells) Fail(lines[MostCells].Line, "a map has 300 rows at most");
-        for (std::size_t row = 0; row < lines.size(); ++row) {
-            ReadRow(static_cast<int>(row), lines[row]);
+        rows = LinesOf(bytes);
+        heading = TakeHeading(name, rows);
+        while (!rows.empty() && Trimmed(rows.back().Text).empty()) rows.pop_back();
+        if (rows.size() > MostCells) Fail(rows[MostCells].Line, "a map has 300 rows at most");
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            ReadRow(static_cast<int>(row), rows[row]);
         }
         for (const ExtraLine& extra : heading.Extras) Of(extra.Which).Extras.push_back(extra);
     }
 
-    std::vector<Record> Map() {
-        std::vector<Record> map = std::move(heading.Talk);
+    TextPicture Picture() {
+        TextPicture picture{std::move(heading.Talk), {}, heading.BoardLine + 1};
         for (std::size_t i = static_cast<std::size_t>(Kind::You); i < KindCount; ++i) {
             // Rows have come downward, and stay in order from left to right.
             if (heading.Orders[i] == RowOrder::Up) {
                 std::ranges::stable_sort(kinds[i].Drawn, std::greater(), &Record::Line);
             }
-            Append(map, kinds[i]);
+            Append(picture.Map, kinds[i]);
         }
-        return map;
+        for (const Record& record : picture.Map) picture.Meanings.push_back(MeaningOf(record));
+        return picture;
     }
 
   private:
@@ -79,7 +80,9 @@ class PictureReader {
 
     [[noreturn]] void FailMark(char mark, int col, int line) const {
         std::string what = "column " + std::to_string(col + 1) + ": ";
-        if (IsMark(mark)) {
+        if (mark == 'o' || mark == '0') {
+            what += "a rock is a capital O";
+        } else if (IsMark(mark)) {
             what += mark;
             what += " has no meaning; give it one above the board, such as \"";
             what += mark;
@@ -93,6 +96,15 @@ class PictureReader {
     [[noreturn]] void FailTurn(const ExtraLine& extra) const {
         Fail(extra.Source.Line, "the number " + std::to_string(extra.Index.value_or(0)) +
                                     " is given twice, or there are not so many of the kind");
+    }
+
+    /// The line that tells what the mark means that a record comes from; 0 for none.
+    int MeaningOf(const Record& record) const {
+        if (record.Line <= heading.BoardLine) return 0;
+        const auto row = static_cast<std::size_t>(record.Line - heading.BoardLine - 1);
+        const char mark = rows[row].Text[static_cast<std::size_t>(record.Column) - 1];
+        const auto found = heading.MarkLines.find(mark);
+        return found == heading.MarkLines.end() ? 0 : found->second;
     }
 
     KindLines& Of(Kind kind) { return kinds[static_cast<std::size_t>(kind)]; }
@@ -142,14 +154,15 @@ class PictureReader {
     }
 
     const std::string& name;
+    std::deque<PictureLine> rows;
     PictureHeading heading;
     std::array<KindLines, KindCount> kinds;
 };
 
 } // namespace
 
-std::vector<Record> ReadPicture(const std::string& name, const std::string& bytes) {
-    return PictureReader(name, bytes).Map();
+TextPicture ReadPicture(const std::string& name, const std::string& bytes) {
+    return PictureReader(name, bytes).Picture();
 }
 
 } // namespace tumbledeep

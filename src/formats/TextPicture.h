@@ -16,10 +16,18 @@ struct PictureFault : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// The lines of the map that a text picture draws, in the map's order. Line and column of each are
-/// those of the place in the picture that it comes from. Throws PictureFault, naming the file as
-/// `name`, for the first thing that does not fit.
-std::vector<Record> ReadPicture(const std::string& name, const std::string& bytes);
+/// A text picture that has been read.
+struct TextPicture {
+    /// The lines of the map, in the map's order. Line and column of each are those of the place in
+    /// the picture that it comes from.
+    std::vector<Record> Map;
+    /// For each of these the line that tells what its mark means; 0 where the heading has none.
+    std::vector<int> Meanings;
+    int FirstRow; ///< the line of the board's first row
+};
+
+/// Throws PictureFault, naming the file as `name`, for the first thing that does not fit.
+TextPicture ReadPicture(const std::string& name, const std::string& bytes);
 
 /// The text picture of a map. ReadPicture makes a map of it that plays the same: each kind has the
 /// same objects in the same order, and titles and comments are kept. Throws PictureFault for a map

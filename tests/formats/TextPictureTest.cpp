@@ -35,7 +35,7 @@ std::string Sense(const std::vector<Record>& map) {
 std::string ThereAndBack(const std::string& map) {
     const std::string picture = WritePicture("m", ReadRecords(map));
     // The file written must be read as these records, too.
-    return Sense(ReadRecords(WriteRecords(ReadPicture("p", picture))));
+    return Sense(ReadRecords(WriteRecords(ReadPicture("p", picture).Map)));
 }
 
 TEST(TextPicture, NothingThatMattersIsLostThereAndBack) {
@@ -83,13 +83,14 @@ TEST(TextPicture, TheHeadingGivesMarksTurnsAndLines) {
                                       "board\n"
                                       "#@OO  \n"
                                       "   O\n"
-                                      "#L g2\n\n"));
+                                      "#L g2\n\n")
+                         .Map);
     EXPECT_EQ(map, "\"title Mind, the\ngap\"\nrem end\nyou 0 360\ndirt 720 0\ndirt 0 0\n"
                    "gem1type 720 1080\nroundrock 0 720\nroundrock 360 1080\nroundrock 0 "
                    "1080\nroundrock 370 0\n"
                    "movingmineT 720 1440\nmovingmineT 720 1440\n"
                    "movingmineL 720 360 D\nfactory 720 1080 5:gem1type\n");
-    const auto lines = ReadPicture("p", "board\n\n @");
+    const auto lines = ReadPicture("p", "board\n\n @").Map;
     EXPECT_EQ(lines.at(0).Line, 3);
     EXPECT_EQ(lines.at(0).Column, 2);
 }
@@ -98,9 +99,17 @@ TEST(TextPicture, FaultsNameTheirLine) {
     using Case = std::pair<std::string, const char*>;
     for (const auto& [text, fault] :
          {Case{"title x\n", "p:1: a picture has a line \"board\""},
-          {"titel x\nboard", "p:1: a heading has lines"},
+          {"titel x\nboard", "p:1: did you mean \"title\""},
+          {"some prose\nboard", "p:1: a heading has lines"},
+          {" title x\nboard", "p:1: a line of the heading begins without"},
+          {"####\nboard", "p:1: this looks like a row"},
+          {"x=dirt\nboard", "p:1: a mark is one character"},
+          {"dirt 0 0\n", "p:1: a line of a map has"},
+          {"+ dirt  0\nboard", "p:1: a number is missing"},
+          {"board\no", "p:2: column 1: a rock is"},
           {"\nx = dirt\nx = gem1type\nboard", "p:3: the mark x has a meaning already"},
-          {"x = rock\nboard", "p:1: no object of a map is called \"rock\""},
+          {"x = rock\nboard",
+           "p:1: no object of a map is called \"rock\"; did you mean \"roundrock\""},
           {"x = movingmineL\nboard", "p:1: movingmineL needs one heading"},
           {"x = factory 5:dirt 6\nboard", "p:1: factory needs one recipe"},
           {"x = dirt U\nboard", "p:1: nothing can stand behind dirt"},

@@ -101,11 +101,12 @@ TEST(Check, MapsWithFaults) {
     for (const auto& [text, wanted, picture] : {
              FaultsRow(), Row{stack, "2w 32766 objects share one cell|32767e more than the 32766"},
              Row{"\"title a\ndirt 0 0\"\n", "1w closed in line 2"},
-             Row{"\"title a\n", "1e never closed|1e no player|1e no gem"},
+             Row{"\"title a\n", "1e never closed"},
              Row{"You 360 360\n", "1e \"you\"", "####/# *#/####"},
              Row{"", "1e no player|1e no gem", "####/#  #/####"},
              Row{"dirt 360 720\n", "10w gem1type shares its cell with the dirt of line 1, and the "
-                                   "cell counts as dirt; leave one of them in column 3, row 2"},
+                                   "cell counts as dirt until a key brings back the gem; leave one "
+                                   "of them in column 3, row 2"},
              Row{"movingminePP 360 1080 U\nfactory 360 1080 1:dirt\nfactory 360 1080 1:dirt\n",
                  "2w 3 objects share one cell, the first in line 1, and the cell is empty"},
              Row{far + far, "2w the same dirt stands in line 1"},
@@ -128,7 +129,7 @@ TEST(Check, OddMapsWithoutFault) {
     const TempFolder folder;
     folder.Write("other.tbl", "\"m, n\"\n");
     for (const auto& [text, wanted, picture] : {
-             Row{"\"title Down, down\"\nrem a, b\n# c\n- d\n\n   \nREM e\ndirt 3600  3600\n", ""},
+             Row{"\"title Down,\ndown\"\nrem a, b\n# c\n- d\n\n   \nREM e\ndirt 3600  3600\n", ""},
              Row{"factory 360 720 1:gem1type\nfactory 360 1080 9;bang\ndirt 3.6e3 +3600,\n", ""},
              Row{"harddirt 360 720\n", "10w cell counts as harddirt"},
              Row{"", "", " #####/#@O *#/######"}, // a corner is missing
@@ -144,11 +145,38 @@ TEST(Check, OddMapsWithoutFault) {
     }
 }
 
+TEST(Check, PicturesNameTheirOwnLines) {
+    const TempFolder folder;
+    const std::string board = "board\n#####\n#@*x#\n#####\n";
+    for (const auto& [text, wanted, unused] : {
+             Row{"\nx = movingmineL d\nboard\n######\n#@*xx#\n######", "2w write D"},
+             Row{"x = factory 9dirt\n" + board, "1e write 9:dirt"},
+             Row{"board\n####\n#@*\n####", "3e draw a # there"},
+             Row{"board\n####\n#  #\n####", "1e draw a @|1e draw a *"},
+             Row{"board\n#####\n#@* #\n#O  #\n#T###\n###", ""},
+             Row{"board\n###\n#O#\n# #\n#@#\n#*#\n###", "5w dead in tick"},
+         }) {
+        folder.Write("m.txt", text);
+        Expect(folder.Path / "m.txt", text, wanted);
+    }
+    for (const auto& [name, bytes] : {std::pair<std::string, std::string>{"p.TBM", board},
+                                      {"l.TBL", "a"},
+                                      {"u.TBM", std::string("d\0", 2)},
+                                      {"d", ""}}) {
+        if (name == "d") {
+            std::filesystem::create_directory(folder.Path / name);
+        } else {
+            folder.Write(name, bytes);
+        }
+        EXPECT_THROW(ReadMapSource((folder.Path / name).string()), std::runtime_error) << name;
+    }
+}
+
 TEST(Check, Lists) {
     const TempFolder folder;
     for (const char* map : {"a.TBM", "b, c.TBM", "d.tbm", "e.txt"}) folder.Write(map, "");
     for (const auto& [text, wanted, unused] : {
-             Row{"a\n\"b, c\"\nd\ne", ""}, // of e there is a picture
+             Row{"a\n\"b, c\"\nd\ne", "4e only a text picture"},
              Row{"", "1e empty"},
              Row{"a\n\nd\n\n", "2e blank line|4w after the last map"},
              Row{"x\nA\na.TBM\na \n", "1e no map|2w file is \"a\"|3e extension|4e ends in a blank"},
@@ -183,7 +211,7 @@ TEST(Check, NobodyGetsAGemThatIsGivenUp) {
             gems, [](char c) { return c != '*' && c != '/'; }, ' ');
         std::ranges::replace(picture, '*', ' ');
         const std::string text = Map(Map("", gems), picture);
-        const MapSource source{"m.TBM", false, text, ReadRecords(text)};
+        const MapSource source{"m.TBM", false, text, ReadRecords(text), {}, 0};
         const Findings found = CheckReach(ReadChecked(source));
         givenUp += found.size();
         Board board = LoadMap(text, seed);

@@ -6,8 +6,10 @@
 #include "formats/TextPicture.h"
 #include "host/HostFiles.h"
 
+#include <algorithm>
 #include <iostream>
 #include <stdexcept>
+#include <utility>
 
 namespace tumbledeep {
 
@@ -16,6 +18,10 @@ bool HasExtension(const std::filesystem::path& file, std::string_view extension)
 }
 
 std::string BytesOf(const std::filesystem::path& file) {
+    std::error_code error;
+    if (std::filesystem::is_directory(file, error)) {
+        throw std::runtime_error(file.string() + ": this is a folder");
+    }
     try {
         return ReadFile(file);
     } catch (const Failure& failure) {
@@ -25,9 +31,34 @@ std::string BytesOf(const std::filesystem::path& file) {
     }
 }
 
+namespace {
+
+/// A line "board" alone stands in every picture and in no map.
+bool LooksLikePicture(const std::vector<Record>& lines) {
+    return std::ranges::any_of(lines, [](const Record& line) { return line.Text == "board"; });
+}
+
+} // namespace
+
 MapSource ReadMapSource(const std::string& name) {
-    MapSource source{name, !HasExtension(name, ".TBM"), BytesOf(name), {}};
-    source.Lines = source.IsPicture ? ReadPicture(name, source.Bytes) : ReadRecords(source.Bytes);
+    if (HasExtension(name, ".TBL")) throw std::runtime_error(name + ": this is a list and no map");
+    MapSource source{name, !HasExtension(name, ".TBM"), BytesOf(name), {}, {}, 0};
+    if (source.Bytes.find('\0') != std::string::npos) {
+        throw std::runtime_error(name + ": this is no plain text; save it as ASCII or UTF-8");
+    }
+    if (source.IsPicture) {
+        TextPicture picture = ReadPicture(name, source.Bytes);
+        source.Lines = std::move(picture.Map);
+        source.Meanings = std::move(picture.Meanings);
+        source.FirstRow = picture.FirstRow;
+        return source;
+    }
+    source.Lines = ReadRecords(source.Bytes);
+    if (LooksLikePicture(source.Lines)) {
+        throw std::runtime_error(name +
+                                 ": this is a text picture; give it a name that does not end "
+                                 "in .TBM");
+    }
     return source;
 }
 

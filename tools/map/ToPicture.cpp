@@ -8,6 +8,9 @@ namespace tumbledeep {
 
 int ToPicture(Words words) {
     const MapCall call = ReadMapCall(words, {"-o"});
+    if (HasExtension(call.Output, ".TBM")) {
+        throw CallFault("the name of a picture does not end in .TBM, as does " + call.Output);
+    }
     WriteTo(call.Output, WritePicture(call.Map, ReadMapSource(call.Map).Lines));
     return 0;
 }

@@ -12,6 +12,7 @@ struct Crowd {
     const MapObject* Second = nullptr;
     int Count = 0;
     int Factories = 0;
+    bool HasGem = false;
 };
 
 /// The crowds by the number of their cell: by rows, then by columns.
@@ -27,6 +28,7 @@ std::map<unsigned, Crowd> Crowds(const CheckedMap& map) {
         }
         ++crowd.Count;
         if (object.Which == Kind::Factory) ++crowd.Factories;
+        if (object.Which == Kind::Gem1Type) crowd.HasGem = true;
     }
     return crowds;
 }
@@ -45,8 +47,9 @@ Finding CrowdFinding(const CheckedMap& map, const Crowd& crowd) {
                        {"take one of the two lines away"});
     }
     const Kind owner = map.Start.Area(first.At());
-    const std::string reads =
+    std::string reads =
         owner == Kind::Empty ? "is empty for the rules" : Joined({"counts as ", NameOf(owner)});
+    if (crowd.HasGem && owner != Kind::Gem1Type) reads += " until a key brings back the gem";
     const std::string who =
         crowd.Count == 2 ? Joined({"the ", NameOf(second.Which), " shares its cell with the ",
                                    NameOf(first.Which), " of line ", firstLine})

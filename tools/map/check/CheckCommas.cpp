@@ -33,13 +33,15 @@ void CheckParts(Findings& found, std::span<const MapLine> parts, std::span<const
         parts, [](const MapLine& part) { return part.What == MapLine::Is::Object && !part.Fault; });
     const std::string_view text = records[telling].Text;
     const bool cutsNumbers = parts[0].What == MapLine::Is::Object && ReadNumber(text).Length > 0;
+    const bool hasQuote = records[0].Text.find('"') != std::string::npos;
     const bool says = !SaysNothing(parts[telling]);
     Finding finding = Warning(parts[telling].Line,
                               {"the comma ends the line, and ", Quoted(text),
                                says ? " is read as a line of its own" : " is lost"},
                               {allObjects    ? "write each object on a line of its own"
                                : cutsNumbers ? "write a blank between numbers, a point in one"
-                                             : "put the whole line in double quotes"});
+                               : hasQuote ? "put the whole line in double quotes, with none inside"
+                                          : "put the whole line in double quotes"});
     if ((says || cutsNumbers) && !allObjects) finding.Weight = Severity::Error;
     found.push_back(finding);
 }

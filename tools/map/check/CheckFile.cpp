@@ -26,10 +26,12 @@ Findings CheckMap(const std::string& name) {
     }
     // Without some objects, walls would seem to have holes, and more of that kind.
     const auto lost = LostNames(map);
-    Append(found, CheckNeeds(map, lost));
+    const bool isSwallowed = !map.Ends.empty() && map.Ends.back().Open;
+    if (!isSwallowed) Append(found, CheckNeeds(map, lost));
     if (lost.empty()) {
         Append(found, CheckWalls(map));
         Append(found, CheckReach(map));
+        Append(found, CheckStart(map));
     }
     return found;
 }
@@ -41,6 +43,8 @@ Findings CheckFile(const std::string& name) {
     Findings found =
         HasExtension(path, ".TBL") ? CheckList(path.parent_path(), BytesOf(path)) : CheckMap(name);
     std::ranges::stable_sort(found, {}, &Finding::Line);
+    // What is wrong with a mark of a picture is said once, however often that is drawn.
+    found.erase(std::unique(found.begin(), found.end()), found.end());
     return found;
 }
 

@@ -3,7 +3,7 @@
 
 #include "base/Number.h"
 #include "base/Text.h"
-#include "map/check/NearMiss.h"
+#include "formats/NearMiss.h"
 
 namespace tumbledeep {
 

@@ -77,7 +77,7 @@ Finding FullFinding(const MapLine& line, bool isFirst) {
 }
 
 /// Of a line whose last word is no heading.
-void CheckHeading(Findings& found, const MapLine& line, std::string_view text) {
+void CheckHeading(Findings& found, const MapLine& line, std::string_view text, int tagLine) {
     const auto words = WordsOf(text);
     std::string what = "the heading is missing";
     std::string hint = "end the line with U, D, L or R";
@@ -93,7 +93,7 @@ void CheckHeading(Findings& found, const MapLine& line, std::string_view text) {
             hint = "write " + capital;
         }
     }
-    found.push_back(Warning(line.Line, {what, ": the mine stands still"}, {hint}));
+    found.push_back(Warning(tagLine, {what, ": the mine stands still"}, {hint}));
 }
 
 /// Words between those that the game looks at, and a single number for both places.
@@ -136,7 +136,7 @@ Findings CheckLines(const CheckedMap& map) {
         }
         const bool isHeaded = HasTag(line.Which) && line.Which != Kind::Factory;
         if (isHeaded && !IsHeading(line.Text)) {
-            CheckHeading(found, line, text);
+            CheckHeading(found, line, text, map.Source.TagLine(i));
         } else if (!map.Ends[i].ByComma) {
             CheckWords(found, line, text);
         }

@@ -47,8 +47,10 @@ std::optional<Finding> NameFinding(const fs::path& folder, const Record& record)
     }
     const fs::path file = folder / HostPath(FileOf(name));
     if (!IsThere(file)) {
-        // A folder of pictures has its list beside them, for the maps that are made of them.
-        if (IsThere(folder / HostPath(name + ".txt"))) return std::nullopt;
+        if (IsThere(folder / HostPath(name + ".txt"))) {
+            return Error(record.Line, {"there is only a text picture of ", Quoted(name)},
+                         {"make the map of it by from-picture"});
+        }
         return Error(record.Line, {"there is no map ", Quoted(FileOf(name)), " beside the list"},
                      {"mend the name, or put the map there"});
     }

@@ -8,6 +8,13 @@ namespace tumbledeep {
 
 namespace {
 
+/// Numbers that name a cell by column and row, as it seems.
+bool IsLikeACell(const MapObject& object) {
+    constexpr float most = 300;
+    return object.Top < most && object.Left < most && object.Top == RoundToEven(object.Top) &&
+           object.Left == RoundToEven(object.Left);
+}
+
 void CheckPlace(Findings& found, const MapObject& object) {
     const std::string_view name = NameOf(object.Which);
     const Cell cell = object.At();
@@ -20,7 +27,8 @@ void CheckPlace(Findings& found, const MapObject& object) {
                                 {"what is drawn begins at Top 0 and Left 0"}));
     } else if (!object.OnPitch()) {
         found.push_back(Warning(object.Line, {"the ", name, " stands between two cells"},
-                                {"the nearest is ", PlaceText(cell)}));
+                                {IsLikeACell(object) ? "numbers are twips, 360 to a cell; " : "",
+                                 "the nearest is ", PlaceText(cell)}));
     }
 }
 
@@ -40,12 +48,16 @@ Findings CheckPlaces(const CheckedMap& map) {
 
 Findings CheckNeeds(const CheckedMap& map, const std::set<std::string_view>& lost) {
     Findings found;
+    const bool isPicture = map.Source.IsPicture;
     if (map.PlayerLines.empty() && !lost.contains(KindText(Kind::You))) {
-        found.push_back(Error(1, {"there is no player"}, {"add a line such as \"you 360 360\""}));
+        found.push_back(Error(1, {"there is no player"},
+                              {isPicture ? "draw a @ where the player starts"
+                                         : "add a line such as \"you 360 360\""}));
     }
     if (map.Start.GemTotal == 1 && !lost.contains(KindText(Kind::Gem1Type))) {
-        found.push_back(Error(1, {"there is no gem, so the map is won at once"},
-                              {"add a line such as \"gem1type 360 720\""}));
+        found.push_back(Error(
+            1, {"there is no gem, so the map is won at once"},
+            {isPicture ? "draw a * for each gem" : "add a line such as \"gem1type 360 720\""}));
     }
     return found;
 }

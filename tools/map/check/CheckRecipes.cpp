@@ -2,7 +2,7 @@
 #include "map/check/Checks.h"
 
 #include "base/Text.h"
-#include "map/check/NearMiss.h"
+#include "formats/NearMiss.h"
 
 #include <algorithm>
 #include <set>
@@ -97,7 +97,8 @@ Findings CheckRecipes(const CheckedMap& map) {
         const auto made = MadeBy(factory.Tag);
         if (!made) {
             const auto [what, hint] = WhyNothing(factory, map.Source.Lines[factory.Record].Text);
-            found.push_back(Error(factory.Line, {what, ", so the factory makes nothing"}, {hint}));
+            found.push_back(Error(map.Source.TagLine(factory.Record),
+                                  {what, ", so the factory makes nothing"}, {hint}));
         } else if (made == Kind::Gem1Type && !gems.contains(factory.At().Number())) {
             found.push_back(UncountedFinding(factory.Line));
         }

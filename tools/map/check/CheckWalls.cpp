@@ -68,6 +68,18 @@ std::optional<Cell> FirstHole(const PerCell<char>& walls, const Box& box, Cell p
     return hole;
 }
 
+Finding HoleFinding(const CheckedMap& map, Cell hole, int playerLine) {
+    const MapSource& source = map.Source;
+    const int line = source.IsPicture ? source.FirstRow + hole.Row() - 1 : playerLine;
+    const bool isOpened = map.Start.Area(hole) == Kind::HardDirt;
+    return Error(
+        line,
+        {"the outer wall has a hole in ", PlaceText(hole), ", through which the player can leave"},
+        {isOpened           ? "take away what stands on the wall there"
+         : source.IsPicture ? "draw a # there"
+                            : "put a harddirt there"});
+}
+
 /// One finding for all objects but walls and dirt that lie where the player can't get out.
 void CheckOutside(Findings& found, const CheckedMap& map, const PerCell<char>& open) {
     const MapObject* first = nullptr;
@@ -98,10 +110,7 @@ Findings CheckWalls(const CheckedMap& map) {
     }
     const PerCell<char> walls = Walls(map);
     if (const auto hole = FirstHole(walls, box, player->At())) {
-        return {Error(player->Line,
-                      {"the outer wall has a hole in ", PlaceText(*hole),
-                       ", through which the player can leave"},
-                      {"put a harddirt there"})};
+        return {HoleFinding(map, *hole, player->Line)};
     }
     Findings found;
     CheckOutside(found, map, Flood(walls, Outside(box)));

@@ -46,6 +46,9 @@ Findings CheckWalls(const CheckedMap& map);
 /// Gems that no play can get. Silent where objects lie so that it can't be told.
 Findings CheckReach(const CheckedMap& map);
 
+/// A start that nobody lives through who does not run at once.
+Findings CheckStart(const CheckedMap& map);
+
 /// Whether a list beside a map names it.
 Findings CheckListed(const std::filesystem::path& file);
 

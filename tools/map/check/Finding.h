@@ -19,6 +19,7 @@ struct Finding {
     Severity Weight = Severity::Warning;
     std::string Text; ///< what is wrong
     std::string Hint; ///< how to mend it
+    friend bool operator==(const Finding&, const Finding&) = default;
 };
 
 using Findings = std::vector<Finding>;

@@ -2,6 +2,7 @@
 #include "map/check/RecordEnds.h"
 
 #include "base/Text.h"
+#include "world/Kind.h"
 
 #include <algorithm>
 
@@ -52,6 +53,21 @@ std::vector<RecordEnd> EndsOf(std::string_view bytes, const std::vector<Record>&
     return ends;
 }
 
+namespace {
+
+/// A title of several lines, none of which looks as if it were one of the map's own.
+bool IsLongTitle(const Record& record) {
+    if (!record.Text.starts_with("title ")) return false;
+    std::string_view text = record.Text;
+    for (std::size_t end = text.find('\n'); end != std::string_view::npos; end = text.find('\n')) {
+        text.remove_prefix(end + 1);
+        if (KindNamed(text.substr(0, text.find(' ')))) return false;
+    }
+    return true;
+}
+
+} // namespace
+
 Findings CheckQuotes(const std::vector<Record>& records, const std::vector<RecordEnd>& ends) {
     Findings found;
     for (std::size_t i = 0; i < records.size(); ++i) {
@@ -61,7 +77,7 @@ Findings CheckQuotes(const std::vector<Record>& records, const std::vector<Recor
                                   {"the quote that opens here is never closed, and all from here "
                                    "to the end of the file is one line"},
                                   {"close it with \" at the end of this line"}));
-        } else if (ends[i].Line != line) {
+        } else if (ends[i].Line != line && !IsLongTitle(records[i])) {
             found.push_back(Warning(line,
                                     {"the quote that opens here is closed in line ",
                                      std::to_string(ends[i].Line), ", and all between is one line"},

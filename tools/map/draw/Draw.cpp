@@ -53,10 +53,14 @@ void PrintPicture(const std::string& picture) {
 int Draw(Words words) {
     const MapCall call = ReadMapCall(words, {"-o", "--scale"});
     if (call.Scale && call.Output.empty()) throw CallFault("--scale needs -o");
+    if (!call.Output.empty() && !HasExtension(call.Output, ".png")) {
+        throw CallFault("what is drawn is a .png, not as " + call.Output);
+    }
     const MapSource source = ReadMapSource(call.Map);
     const Board board = LoadSource(source, ToolSeed);
     if (call.Output.empty()) {
-        PrintPicture(WritePicture(source.Name, source.Lines));
+        // An author's own picture has marks that the author knows.
+        PrintPicture(source.IsPicture ? source.Bytes : WritePicture(source.Name, source.Lines));
     } else {
         WritePng(ImageOf(source.Name, board, call.Scale.value_or(1)), call.Output);
     }

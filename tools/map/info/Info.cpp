@@ -16,6 +16,15 @@ std::ostream& Label(std::string_view label) {
     return std::cout << std::left << std::setw(Column) << label;
 }
 
+void PrintTitle(std::string_view title) {
+    for (const char* label = "title";; label = "") {
+        const std::size_t end = title.find('\n');
+        Label(label) << title.substr(0, end) << '\n';
+        if (end == std::string_view::npos) return;
+        title.remove_prefix(end + 1);
+    }
+}
+
 void PrintCounts(const MapInfo& info) {
     for (const KindRow& row : PoolKinds()) {
         const int count = info.CountOf(row.Which);
@@ -44,7 +53,7 @@ void PrintMinute(const MapInfo& info) {
 
 void Print(const MapInfo& info) {
     Label("map") << info.Name << '\n';
-    for (const std::string& title : info.Titles) Label("title") << title << '\n';
+    for (const std::string& title : info.Titles) PrintTitle(title);
     Label("size") << info.Columns << " x " << info.Rows << " cells\n";
     Label("gems") << info.CountOf(Kind::Gem1Type) << '\n';
     Label("players") << info.CountOf(Kind::You) << "\n\n";

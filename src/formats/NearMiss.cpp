@@ -1,5 +1,5 @@
 // How near two words are: the letters to be put in, left out or exchanged, whatever their case.
-#include "map/check/NearMiss.h"
+#include "formats/NearMiss.h"
 
 #include "base/Text.h"
 #include "world/Kind.h"
