@@ -56,13 +56,16 @@ HeldSignals::HeldSignals() {
     std::signal(SIGCHLD, SIG_DFL);
 }
 
-int RunGameToItsEnd(std::vector<std::string> words, const HeldSignals& signals) {
+int RunGameToItsEnd(std::vector<std::string> words, const HeldSignals& signals,
+                    const std::function<void()>& meanwhile) {
+    constexpr timespec pause{0, 250'000'000};
     prctl(PR_SET_CHILD_SUBREAPER, 1);
     const pid_t group = Start(words, signals);
     int status = 0;
     while (HasChildren(status)) {
-        const int signal = sigwaitinfo(&signals.Awaited, nullptr);
+        const int signal = sigtimedwait(&signals.Awaited, nullptr, &pause);
         if (signal > 0 && signal != SIGCHLD) kill(-group, signal);
+        meanwhile();
     }
     return ExitStatus(status);
 }

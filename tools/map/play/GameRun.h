@@ -3,6 +3,7 @@
 #pragma once
 
 #include <csignal>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,8 +20,10 @@ class HeldSignals {
 };
 
 /// Starts a program by the words of its command line, the first being its path, and waits until it
-/// and all its successors have ended. Signals go on to them. Returns the exit status of the last.
-/// Throws std::runtime_error if the program can't be started.
-int RunGameToItsEnd(std::vector<std::string> words, const HeldSignals& signals);
+/// and all its successors have ended. Signals go on to them, and a few times a second `meanwhile`
+/// is called. Returns the exit status of the last. Throws std::runtime_error if the program can't
+/// be started.
+int RunGameToItsEnd(std::vector<std::string> words, const HeldSignals& signals,
+                    const std::function<void()>& meanwhile);
 
 } // namespace tumbledeep

@@ -58,18 +58,36 @@ PlayFolder::~PlayFolder() {
     fs::remove_all(Path, error);
 }
 
-std::string PlayFolder::Fill(const MapSource& map, const fs::path& gameFolder) const {
+std::string PlayFolder::Fill(const MapSource& map, const fs::path& gameFolder) {
     const fs::path file = fs::absolute(map.Name);
     const std::string level = LevelName(file);
     std::string name = level + ".TBM";
     if (map.IsPicture) {
-        WriteTo(Path / name, WriteRecords(map.Lines));
+        std::error_code error;
+        drawn = file;
+        drawnAt = fs::last_write_time(file, error);
+        mapFile = Path / name;
+        MakeMap(map);
     } else {
         Link(name, file);
     }
     LinkNeighbours(file);
     WriteSettings(name, ListWith(level), gameFolder);
     return name;
+}
+
+void PlayFolder::MakeMap(const MapSource& picture) const {
+    WriteTo(mapFile, WriteRecords(picture.Lines));
+}
+
+void PlayFolder::Refresh() {
+    if (drawn.empty()) return;
+    std::error_code error;
+    const auto savedAt = fs::last_write_time(drawn, error);
+    // Some editors take the file away for a moment when they save it.
+    if (error || savedAt == drawnAt) return;
+    drawnAt = savedAt;
+    MakeMap(ReadMapSource(drawn));
 }
 
 /// The first that is linked under a name stays.

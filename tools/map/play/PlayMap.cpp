@@ -7,6 +7,8 @@
 #include "map/play/PlayFolder.h"
 
 #include <filesystem>
+#include <iostream>
+#include <stdexcept>
 
 namespace tumbledeep {
 
@@ -28,13 +30,19 @@ int PlayMap(Words words) {
     const fs::path gameFolder = GameFolder();
     const MapSource map = ReadMapSource(call.Map);
     const HeldSignals signals;
-    const PlayFolder folder;
+    PlayFolder folder;
     const std::string name = folder.Fill(map, gameFolder);
     std::vector<std::string> game{gameFolder / "tumbledeep", "--dir", folder.Path};
     if (call.Scale) game.insert(game.end(), {"--scale", std::to_string(*call.Scale)});
     // In quotes, since it may begin as an option does.
     game.push_back('"' + name + '"');
-    return RunGameToItsEnd(game, signals);
+    return RunGameToItsEnd(game, signals, [&folder] {
+        try {
+            folder.Refresh();
+        } catch (const std::runtime_error& fault) {
+            std::cerr << "tumbledeep-map: " << fault.what() << '\n';
+        }
+    });
 }
 
 } // namespace tumbledeep
