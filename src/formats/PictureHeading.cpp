@@ -27,7 +27,10 @@ std::string_view Behind(std::string_view line, std::string_view word) {
     return line.substr(std::min(line.size(), word.size() + 1));
 }
 
-std::string InQuotes(std::string_view text) { return "\"" + std::string(text) + "\""; }
+std::string InQuotes(std::string_view text) {
+    std::string quoted(1, '"');
+    return quoted.append(text) += '"';
+}
 
 std::string NoNumber(const std::string& word) {
     if (word.empty()) return "a number is missing, or there are two blanks in a row";
