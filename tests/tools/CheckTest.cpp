@@ -201,10 +201,10 @@ TEST(Check, NobodyGetsAGemThatIsGivenUp) {
         Dice dice(seed);
         const std::string_view kinds = dice.Once(3) ? "# # # . * O T ^" : "# # # * * O O O .";
         std::string picture(49, '#'); // of 7 times 7 cells
-        for (int cell = 8; cell < 41; ++cell) {
+        for (std::size_t cell = 8; cell < 41; ++cell) {
             if (cell % 7 % 6 != 0) picture.replace(cell, 1, cell == 24 ? "@" : dice.OneOf(kinds));
         }
-        for (int row = 6; row > 0; --row) picture.insert(row * 7, 1, '/');
+        for (std::size_t row = 6; row > 0; --row) picture.insert(row * 7, 1, '/');
         // Gems first: then the line of each is its index in the pool.
         std::string gems = picture;
         std::ranges::replace_if(
