@@ -58,7 +58,7 @@ struct Row {
 constexpr std::string_view Faults =
     R"(dirt 0 O -> e loading stops here with failure 13; write digits
 dirt  0 360 -> e missing: failure 13; leave one|dirt 0 360  -> e blank at the end
-dirt -> e write the name, Top|dirt 0~360 -> e place of the tab|"dirt 0,5 360" -> e point
+dirt -> e write the name, Top|dirt is soft -> e begin comments|dirt 0~360 -> e place of the tab|"dirt 0,5 360" -> e point
 dirt 1e39 0 -> e failure 6|movingmineT 0 0 U -> e take "U" away|dirt 3600 -> w both Top and Left
 dirt 3600 5 3960 -> w Left
 movingmineL 1080 0 u -> w "u" is no heading: the mine stands still; write U
@@ -75,7 +75,7 @@ title Down, down, down -> w "down" is lost; put the whole line
 rem a, dirt 1800 0 -> e a line of its own; put the whole line
 dirt 1800,1800 -> e a blank between numbers|dirt 1800 360,dirt 1800 720 -> w each object on a line
 "title a" b -> w "b" behind
-roundrock 0 108000 -> e outside the board|dirt 0 -360 -> w out of sight|you 0 720 -> w line 47 too)";
+roundrock 0 108000 -> e outside the board|dirt 0 -360 -> w out of sight|you 0 720 -> w line 48 too)";
 
 /// The row of the table above.
 Row FaultsRow() {
@@ -179,8 +179,9 @@ TEST(Check, Lists) {
              Row{"a\n\"b, c\"\nd\ne", "4e only a text picture"},
              Row{"", "1e empty"},
              Row{"a\n\nd\n\n", "2e blank line|4w after the last map"},
-             Row{"x\nA\na.TBM\na \n", "1e no map|2w file is \"a\"|3e extension|4e ends in a blank"},
-             Row{"a\nd\na\n", "3w in line 1"},
+             Row{"xyz\nA\na.TBM\na \n",
+                 "1e mend the name|2w file is \"a\"|3e extension|4e ends in a blank"},
+             Row{"a\nb, c \nd\na\n\"b; c\"", "2e comma|4w in line 1|5e did you mean \"b, c\""},
              Row{"\xEF\xBB\xBF"
                  "b, c\n\"a\" x\n\"d\n",
                  "1e comma|2w \"x\" behind|3e never closed"},

@@ -55,6 +55,9 @@ std::string NumberHint(const MapLine& line, const MapFault& fault, std::string_v
                        KindText(line.Which)});
     }
     if (IsHeading(word)) return "the heading stands behind the two numbers";
+    if (text.find_first_of("0123456789", KindText(line.Which).size()) == std::string_view::npos) {
+        return "begin comments with rem, or write Top and Left behind the name";
+    }
     return "write a number of twips, such as 360";
 }
 

@@ -3,6 +3,7 @@
 
 #include "base/Text.h"
 #include "formats/MapList.h"
+#include "formats/NearMiss.h"
 #include "host/HostFiles.h"
 
 #include <algorithm>
@@ -21,6 +22,17 @@ std::string FileOf(const std::string& name) { return name + std::string(Extensio
 bool IsThere(const fs::path& path) {
     std::error_code error;
     return !path.empty() && fs::is_regular_file(FindFile(path), error);
+}
+
+/// The name in that folder that a name looks like; "" when there is none.
+std::string NearestMap(const fs::path& folder, const std::string& name) {
+    std::vector<std::string> maps;
+    std::error_code error;
+    for (const auto& entry : fs::directory_iterator(folder.empty() ? "." : folder, error)) {
+        if (HasExtension(entry.path(), Extension)) maps.push_back(entry.path().stem().string());
+    }
+    const std::vector<std::string_view> names(maps.begin(), maps.end());
+    return std::string(NearMiss(name, names));
 }
 
 Finding BlankFinding(int line, bool isLast) {
@@ -51,8 +63,10 @@ std::optional<Finding> NameFinding(const fs::path& folder, const Record& record)
             return Error(record.Line, {"there is only a text picture of ", Quoted(name)},
                          {"make the map of it by from-picture"});
         }
+        const std::string meant = NearestMap(folder, name);
         return Error(record.Line, {"there is no map ", Quoted(FileOf(name)), " beside the list"},
-                     {"mend the name, or put the map there"});
+                     {meant.empty() ? "mend the name, or put the map there"
+                                    : Joined({"did you mean ", Quoted(meant)})});
     }
     const std::string real = FindFile(file).stem().string();
     if (real == file.stem().string()) return std::nullopt;
