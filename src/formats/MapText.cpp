@@ -55,6 +55,13 @@ MapLine ReadMapLine(const Record& record) {
     return line;
 }
 
+std::string FaultText(const MapFault& fault) {
+    if (fault.Word.empty()) return "a number is missing, or two blanks follow one another";
+    std::string text(1, '"');
+    text.append(fault.Word) += '"';
+    return text += fault.Number == Failure::Overflow ? " is too large a number" : " is no number";
+}
+
 std::string ObjectLine(Kind kind, float top, float left, std::string_view tag) {
     std::string line(KindText(kind));
     line.append(" ").append(FixedText(top)).append(" ").append(FixedText(left));

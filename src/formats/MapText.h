@@ -18,6 +18,9 @@ struct MapFault {
     int Column;       ///< where that word stands in its line, in bytes from 1
 };
 
+/// The fault in words: ""36o" is no number".
+std::string FaultText(const MapFault& fault);
+
 /// A line of a map. What a faulty one has before its fault is kept, since it is put on the board.
 struct MapLine {
     enum class Is { Nothing, Title, Object };

@@ -32,11 +32,6 @@ std::string InQuotes(std::string_view text) {
     return quoted.append(text) += '"';
 }
 
-std::string NoNumber(const std::string& word) {
-    if (word.empty()) return "a number is missing, or there are two blanks in a row";
-    return InQuotes(word) + " is no number";
-}
-
 std::string NoObject(std::string_view word) {
     std::string text = "no object of a map is called " + InQuotes(word);
     const std::string_view meant = NearMiss(word, Keywords());
@@ -148,7 +143,7 @@ class Reader {
         }
         Record record = MapRecord(std::string(text), column);
         const MapLine line = ReadMapLine(record);
-        if (line.Fault) Fail(NoNumber(line.Fault->Word));
+        if (line.Fault) Fail(FaultText(*line.Fault));
         if (line.What == MapLine::Is::Object) {
             heading.Extras.push_back({index, line.Which, std::move(record)});
         } else if (index) {

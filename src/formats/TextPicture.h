@@ -29,9 +29,13 @@ struct TextPicture {
 /// Throws PictureFault, naming the file as `name`, for the first thing that does not fit.
 TextPicture ReadPicture(const std::string& name, const std::string& bytes);
 
-/// The text picture of a map. ReadPicture makes a map of it that plays the same: each kind has the
-/// same objects in the same order, and titles and comments are kept. Throws PictureFault for a map
-/// with a line that the game can't read; `name` is the map's.
-std::string WritePicture(const std::string& name, const std::vector<Record>& map);
+/// Whether a picture says in its heading what gives objects their turns, or is only looked at.
+enum class Turns { Kept, LeftOut };
+
+/// The text picture of a map. With its turns ReadPicture makes a map of it that plays the same:
+/// each kind has the same objects in the same order. Titles and comments are kept. Throws
+/// PictureFault for a map with a line that the game can't read; `name` is the map's.
+std::string WritePicture(const std::string& name, const std::vector<Record>& map,
+                         Turns turns = Turns::Kept);
 
 } // namespace tumbledeep

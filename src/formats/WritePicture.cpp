@@ -86,9 +86,11 @@ class PictureWriter {
         MarkCells();
     }
 
-    std::string Text() {
+    std::string Text(Turns wanted) {
         std::string turns;
-        for (const Kind kind : Kinds()) turns += TurnsOf(kind);
+        for (const Kind kind : Kinds()) {
+            turns += wanted == Turns::Kept ? TurnsOf(kind) : NotShown(kind);
+        }
         std::string legend;
         for (const auto& [mark, cell] : marks.Made()) legend += LegendLine(mark, cell);
         std::string text;
@@ -110,8 +112,8 @@ class PictureWriter {
     void Take(const std::string& name, const Record& record) {
         const MapLine line = ReadMapLine(record);
         if (line.Fault) {
-            throw PictureFault(name + ":" + std::to_string(line.Line) + ": \"" + line.Fault->Word +
-                               "\" is no number, and the map can't be loaded");
+            throw PictureFault(name + ":" + std::to_string(line.Line) + ": " +
+                               FaultText(*line.Fault) + ", and the map can't be loaded");
         }
         if (line.What == MapLine::Is::Object) {
             Of(line.Which)
@@ -181,6 +183,14 @@ class PictureWriter {
         return lines;
     }
 
+    std::string NotShown(Kind kind) {
+        std::string lines;
+        for (const Item& item : Of(kind)) {
+            if (!item.Where) lines.append("+ ").append(HeadingText(item.Text));
+        }
+        return lines;
+    }
+
     static std::string LegendLine(char mark, const MarkedCell& cell) {
         std::string line{mark};
         line += " = ";
@@ -212,8 +222,8 @@ class PictureWriter {
 
 } // namespace
 
-std::string WritePicture(const std::string& name, const std::vector<Record>& map) {
-    return PictureWriter(name, map).Text();
+std::string WritePicture(const std::string& name, const std::vector<Record>& map, Turns turns) {
+    return PictureWriter(name, map).Text(turns);
 }
 
 } // namespace tumbledeep

@@ -62,6 +62,8 @@ TEST(TextPicture, NothingThatMattersIsLostThereAndBack) {
     EXPECT_EQ(ThereAndBack("\"title a\r\nb\"\n"), "title a\nb\n");
     EXPECT_EQ(WritePicture("m", ReadRecords("roundrock 0 0\nroundrock 360 0\n")),
               "order roundrock down\n\nboard\nO\nO\n");
+    EXPECT_EQ(WritePicture("m", ReadRecords("dirt 360 0\ndirt 1 0\ndirt 0 0\n"), Turns::LeftOut),
+              "+ dirt 1 0\n\nboard\n.\n.\n");
     std::string tags; // more of them than there are marks
     for (int i = 0; i < 200; ++i)
         tags +=

@@ -4,12 +4,10 @@
 #include "map/MapSource.h"
 #include "world/Board.h"
 
-#include <cstdint>
-
 namespace tumbledeep {
 
-/// The board at the map's start. Throws std::runtime_error for the first line at which the game
-/// stops reading: "x.TBM:3: "36o" is no number (failure 13)".
-Board LoadSource(const MapSource& source, std::uint32_t seed);
+/// The board at the map's start, with the same random numbers each time. Throws std::runtime_error
+/// for the first line at which the game stops reading: "x.TBM:3: "36o" is no number (failure 13)".
+Board LoadSource(const MapSource& source);
 
 } // namespace tumbledeep

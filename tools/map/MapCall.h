@@ -10,9 +10,6 @@
 
 namespace tumbledeep {
 
-/// The random numbers of maps that are drawn and studied: the same at each call.
-inline constexpr std::uint32_t ToolSeed = 1;
-
 struct MapCall {
     std::string Map;
     std::string Output;       ///< behind -o; "" without

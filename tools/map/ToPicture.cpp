@@ -1,6 +1,7 @@
 // The command that makes a text picture of a map. The format is formats/TextPicture.h's.
 #include "formats/TextPicture.h"
 #include "map/Commands.h"
+#include "map/LoadSource.h"
 #include "map/MapCall.h"
 #include "map/MapSource.h"
 
@@ -11,7 +12,9 @@ int ToPicture(Words words) {
     if (HasExtension(call.Output, ".TBM")) {
         throw CallFault("the name of a picture does not end in .TBM, as does " + call.Output);
     }
-    WriteTo(call.Output, WritePicture(call.Map, ReadMapSource(call.Map).Lines));
+    const MapSource source = ReadMapSource(call.Map);
+    LoadSource(source); // refuses what the game can't load, a pool too full as well
+    WriteTo(call.Output, WritePicture(call.Map, source.Lines));
     return 0;
 }
 

@@ -14,9 +14,10 @@ void Work(Board& board, int factory, std::int16_t& counter) {
     if (!recipe || recipe->Rest >= counter) return;
     // With a kind that can't be made the factory rests as if it had made one.
     counter = 0;
-    if (!recipe->Made) return;
+    const auto made = KindMade(recipe->Product);
+    if (!made) return;
     const Sprite& sprite = factories[factory];
-    board.SpawnObject(*recipe->Made, sprite.Left, sprite.Top, Heading::Down);
+    board.SpawnObject(*made, sprite.Left, sprite.Top, Heading::Down);
 }
 
 } // namespace

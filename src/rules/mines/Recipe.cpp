@@ -6,9 +6,17 @@ namespace tumbledeep {
 std::optional<Recipe> ReadRecipe(std::string_view text) {
     constexpr std::size_t kindStart = 2;
     if (text.size() < kindStart || text[0] < '0' || text[0] > '9') return std::nullopt;
-    Recipe recipe{text[0] - '0', KindNamed(text.substr(kindStart))};
-    if (recipe.Made == Kind::You || recipe.Made == Kind::Factory) recipe.Made.reset();
-    return recipe;
+    return Recipe{text[0] - '0', text.substr(kindStart)};
+}
+
+std::optional<Kind> KindMade(std::string_view product) {
+    const auto kind = KindNamed(product);
+    return kind == Kind::You || kind == Kind::Factory ? std::nullopt : kind;
+}
+
+std::optional<Kind> MadeBy(std::string_view tag) {
+    const auto recipe = ReadRecipe(tag);
+    return recipe ? KindMade(recipe->Product) : std::nullopt;
 }
 
 } // namespace tumbledeep

@@ -9,6 +9,7 @@
 #include "map/check/Checks.h"
 
 #include "map/check/Ground.h"
+#include "rules/mines/Recipe.h"
 
 #include <algorithm>
 #include <array>

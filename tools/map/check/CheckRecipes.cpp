@@ -3,6 +3,7 @@
 
 #include "base/Text.h"
 #include "formats/NearMiss.h"
+#include "rules/mines/Recipe.h"
 
 #include <algorithm>
 #include <set>
@@ -11,17 +12,7 @@ namespace tumbledeep {
 
 namespace {
 
-constexpr std::size_t KindStart = 2; ///< behind the digit and the separator
-
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
-bool CanBeMade(std::optional<Kind> kind) {
-    return kind && *kind != Kind::You && *kind != Kind::Factory;
-}
-
-std::string_view KindPart(std::string_view recipe) {
-    return recipe.size() < KindStart ? "" : recipe.substr(KindStart);
-}
 
 struct Reason {
     std::string What;
@@ -30,9 +21,10 @@ struct Reason {
 
 /// Of a recipe that begins with a digit.
 Reason KindReason(std::string_view recipe) {
-    const std::string_view kind = KindPart(recipe);
+    const auto read = ReadRecipe(recipe);
+    const std::string_view kind = read ? read->Product : "";
     const std::string digit(1, recipe.front());
-    if (CanBeMade(KindNamed(recipe.substr(1)))) {
+    if (KindMade(recipe.substr(1))) {
         return {"there is no character between the digit and the kind",
                 Joined({"write ", digit, ":", recipe.substr(1)})};
     }
@@ -82,12 +74,6 @@ Finding UncountedFinding(int line) {
 }
 
 } // namespace
-
-std::optional<Kind> MadeBy(std::string_view recipe) {
-    if (recipe.empty() || !IsDigit(recipe.front())) return std::nullopt;
-    const auto kind = KindNamed(KindPart(recipe));
-    return CanBeMade(kind) ? kind : std::nullopt;
-}
 
 Findings CheckRecipes(const CheckedMap& map) {
     Findings found;

@@ -28,9 +28,6 @@ Findings CheckCommas(const CheckedMap& map);
 /// Recipes that make nothing, and gems that come out of factories.
 Findings CheckRecipes(const CheckedMap& map);
 
-/// What a recipe makes; none when that is nothing.
-std::optional<Kind> MadeBy(std::string_view recipe);
-
 /// Objects between cells or off the board, and players too many.
 Findings CheckPlaces(const CheckedMap& map);
 

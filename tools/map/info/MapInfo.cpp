@@ -3,7 +3,6 @@
 
 #include "formats/MapText.h"
 #include "map/LoadSource.h"
-#include "map/MapCall.h"
 
 #include <algorithm>
 #include <cmath>
@@ -31,10 +30,8 @@ FactoryInfo InfoOf(const Sprite& sprite, std::string_view tag) {
                      Held(RoundToEven(GridPlace(sprite.Top))),
                      std::string(tag),
                      {}};
-    const auto recipe = ReadRecipe(tag);
-    if (!recipe || !recipe->Made) return info;
-    info.Made = recipe->Made;
-    info.Every = (recipe->Rest + 1) * FactoryMilliseconds;
+    info.Made = MadeBy(tag);
+    if (info.Made) info.Every = (ReadRecipe(tag)->Rest + 1) * FactoryMilliseconds;
     return info;
 }
 
@@ -71,7 +68,7 @@ MapInfo StudyMap(const std::string& name) {
     MapInfo info;
     info.Name = name;
     const MapSource source = ReadMapSource(name);
-    Board board = LoadSource(source, ToolSeed);
+    Board board = LoadSource(source);
     info.Times.LoadEnds();
     TakeLines(info, source.Lines);
     TakeBoard(info, board);
