@@ -25,5 +25,7 @@ int FromPicture(Words words);
 int ToPicture(Words words);
 int Info(Words words);
 int PlayMap(Words words);
+int Solve(Words words);
+int Measure(Words words);
 
 } // namespace tumbledeep

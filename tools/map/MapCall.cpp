@@ -14,10 +14,12 @@ bool LooksLikeOption(std::string_view word) {
     return word.starts_with("--") || (word.starts_with('-') && word.size() == 2);
 }
 
-int ScaleFrom(std::string_view text) {
+/// The whole number behind an option, from 1 to `most`.
+int NumberFrom(std::string_view option, std::string_view text, int most) {
     const auto number = ReadInteger(text);
-    if (number && *number >= 1 && *number <= LargestScale) return static_cast<int>(*number);
-    throw CallFault("--scale needs a whole number from 1 to " + std::to_string(LargestScale));
+    if (number && *number >= 1 && *number <= most) return static_cast<int>(*number);
+    throw CallFault(std::string(option) + " needs a whole number from 1 to " +
+                    std::to_string(most));
 }
 
 /// Takes an option that the command knows; `value` gives the word behind it.
@@ -25,7 +27,16 @@ void TakeOption(MapCall& call, std::string_view option, const auto& value) {
     if (option == "-o") {
         call.Output = value();
     } else if (option == "--scale") {
-        call.Scale = ScaleFrom(value());
+        call.Scale = NumberFrom(option, value(), LargestScale);
+    } else if (option == "--seconds") {
+        constexpr int aDay = 86'400;
+        call.Seconds = NumberFrom(option, value(), aDay);
+    } else if (option == "--after") {
+        call.After = value();
+    } else if (option == "--goal") {
+        call.Goal = value();
+    } else if (option == "--quick") {
+        call.Quick = true;
     } else {
         call.Json = true;
     }

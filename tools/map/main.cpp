@@ -21,7 +21,7 @@ struct Command {
     int (*Run)(Words words);
 };
 
-constexpr std::array<Command, 6> Commands{{
+constexpr std::array<Command, 8> Commands{{
     {"check", "FILE...",
      "tells every doubt about maps, text pictures and map lists, with its line\n"
      "and a way to mend it; the status is 0 without any, 1 for warnings, 2 for errors",
@@ -35,6 +35,14 @@ constexpr std::array<Command, 6> Commands{{
     {"info", "MAP [--json]", "tells size, counts, factories, and how long ticks take", Info},
     {"play", "MAP [--scale N]",
      "starts the game on the map wherever it lies; settings stay as they are", PlayMap},
+    {"solve", "MAP [-o SCRIPT] [--seconds N] [--after SCRIPT]",
+     "searches for keys that win, on from a script's last key if one is given, for a\n"
+     "minute or N seconds; the status is 1 without any, and the best try is written",
+     Solve},
+    {"measure", "MAP [--quick] [--json] [--goal T|M|H] [--seconds N]",
+     "plays the map in many ways, with the scripts in the folder \"solutions\" beside it and\n"
+     "with bots, and tells how hard it is; the status is 1 when a goal is missed",
+     Measure},
 }};
 
 constexpr std::string_view Tail =

@@ -9,6 +9,7 @@
 //     load_ms            reading the file and setting up the board
 //     worst_tick         tick (from 1) and ms of the longest in the first minute
 //     first_minute       end ("running", "won" or "died") and ticks that ran, no key touched
+#include "map/info/EndText.h"
 #include "map/info/MapInfo.h"
 
 #include <nlohmann/json.hpp>
@@ -32,11 +33,6 @@ Json CountsJson(const MapInfo& info) {
         if (row.Which != Kind::Bang) json[std::string(row.Text)] = info.CountOf(row.Which);
     }
     return json;
-}
-
-const char* EndText(Outcome end) {
-    if (end == Outcome::Running) return "running";
-    return end == Outcome::Won ? "won" : "died";
 }
 
 } // namespace
