@@ -1,25 +1,15 @@
-# Plays a map's solution in a directory of its own, on the maps and lists of the folder MAPS. It must win, and lead to the next map of the
-# list or, from the last one, to the list's end.
-#   cmake -D TRACE=tumbledeep-trace -D MAP=NAME -D MAPS=FOLDER -P PlaySolution.cmake
+# Plays a map's scripts in the whole program, each in a directory of its own, on the maps and lists
+# of the folder MAPS. A solution must win with at least LEAST of the seeds 1 to SEEDS, and lead to
+# the next map of the list or, from the last one, to the list's end. A bait must not win.
+#   cmake -D TRACE=tumbledeep-trace -D MAP=NAME -D MAPS=FOLDER -D SEEDS=5 -D LEAST=5 -P PlaySolution.cmake
 set(levels ${CMAKE_CURRENT_LIST_DIR})
-set(solution "${levels}/solutions/${MAP}.txt")
-
 string(RANDOM LENGTH 12 tag)
 set(directory "$ENV{TMPDIR}")
 if(NOT directory)
   set(directory /tmp)
 endif()
 string(APPEND directory "/tumbledeep-level-${tag}")
-file(GLOB maps "${MAPS}/*.TB[ML]")
-file(COPY ${maps} DESTINATION "${directory}")
-
-# A run ends by itself when it is won; a solution that loses its way plays on to this step.
-execute_process(
-  COMMAND ${TRACE} --dir "${directory}" --seed 1 --steps 100000 --quiet --script "${solution}"
-          "${MAP}.TBM"
-  OUTPUT_VARIABLE lines
-  RESULT_VARIABLE status)
-file(REMOVE_RECURSE "${directory}")
+file(COPY "${MAPS}/${MAP}.TBM" "${MAPS}/Default.TBL" DESTINATION "${directory}")
 
 file(STRINGS "${levels}/Default.TBL" names)
 list(FIND names "${MAP}" place)
@@ -31,10 +21,57 @@ if(place LESS count)
 else()
   set(expected "box 0 \"There are no morelevels!\"")
 endif()
-foreach(part IN ITEMS "box 16 \"You won\" = 1" "${expected}")
-  string(FIND "${lines}" "${part}" found)
-  if(found LESS 0 OR NOT status EQUAL 0)
-    message(FATAL_ERROR "${MAP} was not won as its solution says; status ${status}, no line "
-                        "${part} in:\n${lines}")
+
+# Sets `won` to whether a script wins with a seed; the lines are in `lines`.
+function(play script seed)
+  # A run ends by itself when it is won; a script that loses its way plays on to this step.
+  execute_process(
+    COMMAND ${TRACE} --dir "${directory}" --seed ${seed} --steps 100000 --quiet
+            --script "${script}" "${MAP}.TBM"
+    OUTPUT_VARIABLE lines
+    RESULT_VARIABLE status)
+  file(REMOVE "${directory}/Tumbledeep.ini")
+  string(FIND "${lines}" "box 16 \"You won\" = 1" found)
+  if(NOT status EQUAL 0)
+    message(FATAL_ERROR "${script}: the trace fails with status ${status}")
+  elseif(found LESS 0)
+    set(won FALSE PARENT_SCOPE)
+  else()
+    set(won TRUE PARENT_SCOPE)
+  endif()
+  set(lines "${lines}" PARENT_SCOPE)
+endfunction()
+
+set(solutions "${levels}/solutions/${MAP}.script")
+if(EXISTS "${levels}/solutions/${MAP}.2.script")
+  list(APPEND solutions "${levels}/solutions/${MAP}.2.script")
+endif()
+set(faults "")
+set(wins 0)
+foreach(seed RANGE 1 ${SEEDS})
+  foreach(script IN LISTS solutions)
+    play("${script}" ${seed})
+    if(won)
+      math(EXPR wins "${wins} + 1")
+      string(FIND "${lines}" "${expected}" found)
+      if(found LESS 0)
+        string(APPEND faults "seed ${seed} is won, but there is no line ${expected} in:\n${lines}")
+      endif()
+      break()
+    endif()
+  endforeach()
+endforeach()
+if(wins LESS LEAST)
+  string(APPEND faults "${MAP} is won with ${wins} of ${SEEDS} seeds, ${LEAST} are needed\n${lines}")
+endif()
+file(GLOB baits "${levels}/solutions/${MAP}.bait*.script")
+foreach(script IN LISTS baits)
+  play("${script}" 1)
+  if(won)
+    string(APPEND faults "${script} is a bait and wins\n")
   endif()
 endforeach()
+file(REMOVE_RECURSE "${directory}")
+if(faults)
+  message(FATAL_ERROR "${faults}")
+endif()

@@ -42,7 +42,8 @@ struct MapMeasure {
     double WaitingShare = 0; ///< part of the best solution's time spent waiting
     double LongestWait = 0;  ///< in seconds
     double UsedShare = 0;    ///< part of the map's objects that the best solution has to do with
-    double WorstTick = 0;    ///< in milliseconds, in the first minute and the best solution
+    /// In milliseconds, in the first minute and the best solution; none from a quick look.
+    std::optional<double> WorstTick;
     std::optional<double> RandomWins; ///< part of the runs of the random bot; none if not asked for
     std::optional<double> GreedyWins; ///< the same of the greedy bot
     std::optional<SearchMeasure> Search;
@@ -54,7 +55,7 @@ struct MapMeasure {
 };
 
 struct MeasureOptions {
-    bool Quick = false; ///< few seeds and no bots but the idle one
+    bool Quick = false; ///< one seed, no late keys, no bots but the idle one, no times
     int SearchSeconds = 20;
 };
 

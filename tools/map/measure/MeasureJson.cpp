@@ -8,7 +8,7 @@
 //     solutions, baits             the best first; each with file, keys, seconds, wins, late_wins
 //     waiting, longest_wait        part of the best solution's time, and in seconds
 //     used                         part of the objects that the best solution has to do with
-//     worst_tick_ms
+//     worst_tick_ms                null from a quick look
 //     random, greedy               parts of the bots' runs that win
 //     search                       won, boards
 //     difficulty                   0 to 100, null without the bots, as are the three above
@@ -63,7 +63,7 @@ std::string JsonOf(const MapMeasure& measure, const std::vector<std::string>& mi
         {"waiting", measure.WaitingShare},
         {"longest_wait", measure.LongestWait},
         {"used", measure.UsedShare},
-        {"worst_tick_ms", measure.WorstTick},
+        {"worst_tick_ms", Maybe(measure.WorstTick)},
         {"random", Maybe(measure.RandomWins)},
         {"greedy", Maybe(measure.GreedyWins)},
         {"search", search},

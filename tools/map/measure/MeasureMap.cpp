@@ -48,7 +48,7 @@ class Measuring {
         return {file.filename().string(), study.Keys,
                 static_cast<double>(study.End.Ticks) / ticksPerSecond,
                 part(CountWins(start, script, seeds, false)),
-                part(CountWins(start, script, seeds, true))};
+                part(seeds > 1 ? CountWins(start, script, seeds, true) : 0)};
     }
 
     void StudyBest(MapMeasure& measure, const std::filesystem::path& file) {
@@ -56,7 +56,7 @@ class Measuring {
         measure.WaitingShare = study.WaitingShare;
         measure.LongestWait = study.LongestWait;
         measure.UsedShare = study.UsedShare;
-        measure.WorstTick = std::max(measure.WorstTick, study.WorstTick);
+        if (measure.WorstTick) measure.WorstTick = std::max(*measure.WorstTick, study.WorstTick);
     }
 
     /// The part of a bot's runs that win; `run` gets a board and a seed.
@@ -139,17 +139,17 @@ void TakeScripts(MapMeasure& measure, Measuring& measuring) {
 
 MapMeasure MeasureMap(const std::string& name, const MeasureOptions& options, Progress& bar) {
     constexpr int allSeeds = 50;
-    constexpr int fewSeeds = 5;
+    constexpr int oneSeed = 1;
     MapMeasure measure;
     const MapSource source = ReadMapSource(name);
     measure.Info = StudyMap(name);
-    measure.WorstTick = measure.Info.Times.WorstTime();
+    if (!options.Quick) measure.WorstTick = measure.Info.Times.WorstTime();
     for (const KindRow& row : PoolKinds()) {
         const bool isPlain =
             row.Which == Kind::HardDirt || row.Which == Kind::Dirt || row.Which == Kind::Gem1Type;
         if (!isPlain && measure.Info.CountOf(row.Which) > 0) measure.Kinds.push_back(row.Which);
     }
-    measure.Seeds = options.Quick ? fewSeeds : allSeeds;
+    measure.Seeds = options.Quick ? oneSeed : allSeeds;
     Measuring measuring(source, bar);
     measuring.Untouched(measure);
     TakeScripts(measure, measuring);

@@ -53,7 +53,10 @@ std::string TableOf(const MapMeasure& measure) {
                               << std::setprecision(1) << measure.LongestWait << " s";
         table.Line("objects used") << Percent(measure.UsedShare);
     }
-    table.Line("worst tick") << std::fixed << std::setprecision(3) << measure.WorstTick << " ms";
+    if (measure.WorstTick) {
+        table.Line("worst tick") << std::fixed << std::setprecision(3) << *measure.WorstTick
+                                 << " ms";
+    }
     if (measure.RandomWins) table.Line("random bot") << "wins " << Percent(*measure.RandomWins);
     if (measure.GreedyWins) table.Line("greedy bot") << "wins " << Percent(*measure.GreedyWins);
     if (measure.Search) {

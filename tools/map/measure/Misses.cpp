@@ -48,13 +48,15 @@ std::vector<std::string> Misses(const MapMeasure& measure, char mapClass) {
     hold(!bounds->StepsSafe || measure.SafeFirstSteps == 4, "a first step kills");
     hold(measure.DeadGems == 0, "a gem can't be got");
     constexpr double slowTick = 2;
-    hold(measure.WorstTick < slowTick, "a tick takes 2 ms or more");
+    hold(measure.WorstTick.value_or(0) < slowTick, "a tick takes 2 ms or more");
     constexpr double longWait = 5;
     hold(measure.LongestWait <= longWait, "the solution waits for more than 5 seconds");
     hold(measure.Best() != nullptr, "there is no solution");
     if (const ScriptMeasure* const best = measure.Best()) {
         least(best->Wins, bounds->WinsLeast, "the solution wins");
-        least(best->LateWins, bounds->LateLeast, "the solution wins with late keys");
+        if (measure.Seeds > 1) {
+            least(best->LateWins, bounds->LateLeast, "the solution wins with late keys");
+        }
     }
     hold(!bounds->NeedsBait || !measure.Baits.empty(), "there is no bait");
     for (const ScriptMeasure& bait : measure.Baits) most(bait.Wins, 0, bait.File + " wins");
