@@ -10,7 +10,6 @@ namespace tumbledeep {
 namespace {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
 struct Scripts {

@@ -51,7 +51,8 @@ float HopeOf(const Board& board) {
 Team::Team(const Board& start, int count, const Script& before) {
     for (int i = 0; i < count; ++i) {
         const auto seed = static_cast<std::uint32_t>(i + 1);
-        Game& game = games.emplace_back(start);
+        games.push_back({start});
+        Game& game = games.back();
         game.Now.Randomize(seed);
         const RunEnd run =
             PlayScript(game.Now, i == 0 ? before : Late(before, seed), RestBeforePlan(before));
