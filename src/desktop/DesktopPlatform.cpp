@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QTimer>
 
 #include <chrono>
 
@@ -48,6 +49,9 @@ void DesktopPlatform::AwaitSuccessor() { successor.AwaitShown(LongestGap); }
 
 template <class Dialog> int DesktopPlatform::Show(Dialog& dialog) {
     BeforeDialog();
+    if (const int patience = Patience ? Patience() : 0; patience > 0) {
+        QTimer::singleShot(patience, &dialog, [&dialog] { dialog.reject(); });
+    }
     const int result = quitting ? 0 : dialog.exec();
     AfterDialog();
     if (quitting) End();
@@ -59,7 +63,7 @@ int DesktopPlatform::MsgBox(const std::string& text, int style) {
     box.setWindowTitle(Title);
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
-    const bool asks = style == MsgBoxStyle::Question || style == MsgBoxStyle::Exclamation;
+    const bool asks = MsgBoxStyle::Asks(style);
     box.setIcon(style == MsgBoxStyle::Stop          ? QMessageBox::Critical
                 : style == MsgBoxStyle::Question    ? QMessageBox::Question
                 : style == MsgBoxStyle::Exclamation ? QMessageBox::Warning

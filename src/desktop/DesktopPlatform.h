@@ -26,6 +26,8 @@ class DesktopPlatform final : public Platform {
     QWidget* DialogParent = nullptr;
     std::function<void()> BeforeDialog;
     std::function<void()> AfterDialog;
+    /// In milliseconds, how long a dialog is shown until it goes by itself; 0 for ever. None: 0.
+    std::function<int()> Patience;
     /// Makes the board follow the mouse until the button is released. Set before the game starts.
     std::function<void()> BeginDrag;
 

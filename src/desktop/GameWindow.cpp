@@ -3,6 +3,7 @@
 #include "desktop/GameWindow.h"
 
 #include "desktop/SpriteImages.h"
+#include "formats/Script.h"
 #include "pictures/Catalogue.h"
 
 #include <QApplication>
@@ -15,6 +16,7 @@
 #include <QWindow>
 
 #include <array>
+#include <iostream>
 
 namespace tumbledeep {
 
@@ -30,12 +32,17 @@ constexpr int FocusPatience = 500;
 /// In milliseconds: a press so soon after the return from another program is what has brought the
 /// player back. A hand that comes back by other means needs longer for its first press.
 constexpr int SamePress = 150;
+/// The exit status for a script that does not fit the dialog it meets.
+constexpr int WrongScript = 2;
 
 } // namespace
 
-GameWindow::GameWindow(frmMain& main, DesktopPlatform& services, const Options& options)
+GameWindow::GameWindow(frmMain& main, Hands& player, DesktopPlatform& services,
+                       const Options& options)
     : game(main),
+      hands(player),
       platform(services),
+      periods(options.Speed.value_or(1)),
       shownPipe(options.ShownPipe.value_or(-1)),
       canvas(main, options.Scale) {
     setCentralWidget(&canvas);
@@ -48,7 +55,9 @@ GameWindow::GameWindow(frmMain& main, DesktopPlatform& services, const Options& 
     timer.setTimerType(Qt::PreciseTimer);
     timer.setInterval(game.ActiveChild.Interval100Timer.Interval);
     connect(&timer, &QTimer::timeout, this, [this] {
-        if (openDialogs == 0) Deliver([this] { game.TimerPeriod(); });
+        for (int i = 0; i < periods && openDialogs == 0; ++i) {
+            Deliver([this] { hands.Period(game); });
+        }
     });
     // The application's state, not the window's: between the two windows of a dialog nobody leaves.
     connect(qApp, &QGuiApplication::applicationStateChanged, &canvas,
@@ -64,7 +73,7 @@ void GameWindow::closeEvent(QCloseEvent* event) {
 
 void GameWindow::StartGame() {
     started = true;
-    Deliver([this] { game.MDIForm_Activate(); });
+    Deliver([this] { hands.Start(game); });
 }
 
 void GameWindow::Deliver(const std::function<void()>& event) {
@@ -78,12 +87,18 @@ void GameWindow::Deliver(const std::function<void()>& event) {
         platform.AwaitSuccessor();
         QCoreApplication::exit(0);
         return;
+    } catch (const ScriptFault& fault) {
+        ended = true;
+        timer.stop();
+        std::cerr << "tumbledeep: " << fault.what() << '\n';
+        QCoreApplication::exit(WrongScript);
+        return;
     }
     Sync();
 }
 
 void GameWindow::Act(const PlayerAct& act) {
-    Deliver([this, &act] { game.Take(act); });
+    Deliver([this, &act] { hands.Act(game, act); });
 }
 
 void GameWindow::TakeOuterSize() {
@@ -110,7 +125,9 @@ void GameWindow::Sync() {
         actions[i]->setCheckable(true);
         actions[i]->setChecked(checked);
     }
-    const bool runs = started && openDialogs == 0 && game.ActiveChild.Interval100Timer.Enabled;
+    note->setText(QString::fromStdString(hands.Note()));
+    const bool runs = started && openDialogs == 0 &&
+                      (game.ActiveChild.Interval100Timer.Enabled || hands.NeedsPeriods());
     if (runs && !timer.isActive()) timer.start();
     if (!runs) timer.stop();
     canvas.Sync();
@@ -146,7 +163,10 @@ void GameWindow::BuildStatusBar() {
     panel = new QLabel;
     panel->setTextFormat(Qt::PlainText);
     statusBar()->addWidget(disc);
+    note = new QLabel;
+    note->setTextFormat(Qt::PlainText);
     statusBar()->addWidget(panel);
+    statusBar()->addPermanentWidget(note);
 }
 
 void GameWindow::ConnectCanvas() {

@@ -5,7 +5,7 @@
 
 #include "desktop/BoardCanvas.h"
 #include "desktop/DesktopPlatform.h"
-#include "windows/frmMain.h"
+#include "windows/hands/Hands.h"
 
 #include <QElapsedTimer>
 #include <QMainWindow>
@@ -22,8 +22,9 @@ namespace tumbledeep {
 
 class GameWindow final : public QMainWindow {
   public:
-    /// The game starts by itself when the window has come up. Game and platform must outlive it.
-    GameWindow(frmMain& game, DesktopPlatform& platform, const Options& options);
+    /// The game starts by itself when the window has come up. Game, hands and platform must outlive
+    /// it.
+    GameWindow(frmMain& game, Hands& hands, DesktopPlatform& platform, const Options& options);
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -49,8 +50,11 @@ class GameWindow final : public QMainWindow {
     void TellShown();
 
     frmMain& game;
+    Hands& hands;
     DesktopPlatform& platform;
+    int periods; ///< of the game to a period of the timer
     QLabel* panel = nullptr;
+    QLabel* note = nullptr; ///< at the right end of the status bar: what is told of the hands
     std::vector<QAction*> actions; ///< by index in the game's menu, nullptr for a submenu
     std::string shownCaption;
     std::string shownStatus;

@@ -32,6 +32,7 @@ std::vector<std::string> Options::ForSuccessor() const {
     std::vector<std::string> words;
     if (Directory) words.insert(words.end(), {"--dir", Directory->string()});
     if (Scale) words.insert(words.end(), {"--scale", std::to_string(*Scale)});
+    if (Record) words.insert(words.end(), {"--record", NextRecording(*Record).string()});
     return words;
 }
 
@@ -57,6 +58,13 @@ Options ReadOptions(std::span<char* const> words) {
             }
         } else if (word == "--scale") {
             options.Scale = WholeFrom(word, value(), 1, LargestScale);
+        } else if (word == "--record") {
+            options.Record = fs::absolute(value()).lexically_normal();
+        } else if (word == "--replay") {
+            options.Replay = fs::absolute(value()).lexically_normal();
+        } else if (word == "--speed") {
+            options.Speed = WholeFrom(word, value(), 1, 4);
+            if (*options.Speed == 3) throw std::runtime_error("--speed is 1, 2 or 4");
         } else if (word == "--shown-pipe") {
             options.ShownPipe = WholeFrom(word, value(), 0, 1 << 20);
         } else if (word.starts_with("--")) {
@@ -66,16 +74,46 @@ Options ReadOptions(std::span<char* const> words) {
             options.Argument += word;
         }
     }
+    if (options.Record && options.Replay) {
+        throw std::runtime_error("--record and --replay don't go together");
+    }
+    if (options.Speed && !options.Replay) throw std::runtime_error("--speed belongs to --replay");
     return options;
 }
 
+fs::path NextRecording(const fs::path& file) {
+    std::string stem = file.stem().string();
+    const std::size_t dash = stem.rfind('-');
+    std::int64_t number = 1;
+    if (dash != std::string::npos && dash > 0) {
+        if (const auto written = ReadInteger(std::string_view(stem).substr(dash + 1));
+            written && *written > 1) {
+            number = *written;
+            stem.resize(dash);
+        }
+    }
+    fs::path next;
+    std::error_code error;
+    do {
+        next = file;
+        next.replace_filename(stem + '-' + std::to_string(++number) + file.extension().string());
+    } while (fs::exists(next, error));
+    return next;
+}
+
 const char* UsageText() {
-    return "usage: tumbledeep [--dir DIR] [--scale N] [MAP | LIST]\n"
+    return "usage: tumbledeep [--dir DIR] [--scale N] [--record FILE] [MAP | LIST]\n"
+           "       tumbledeep [--dir DIR] [--scale N] --replay FILE [--speed 1 | 2 | 4] [MAP]\n"
            "\n"
            "  MAP         a map to play, such as \"First steps.TBM\"\n"
            "  LIST        a map list whose first map is played, such as Default.TBL\n"
            "  --dir DIR   where maps, lists and Tumbledeep.ini lie (default: beside the program)\n"
            "  --scale N   device pixels to a pixel of the game, 1 to 16 (default: by the screen)\n"
+           "  --record FILE  writes what you do as a script for --replay and tumbledeep-trace, "
+           "the\n"
+           "              maps that follow into FILE-2 and so on; FILE must not exist\n"
+           "  --replay FILE  plays a script, with the keys shown; settings stay as they are\n"
+           "  --speed N   of the replay\n"
            "  --help      this text\n"
            "  --version   the program's version\n"
            "\n"

@@ -16,6 +16,9 @@ struct Options {
     bool Version = false;
     std::optional<std::filesystem::path> Directory; ///< of maps, lists and settings
     std::optional<int> Scale;                       ///< device pixels to a game's pixel, 1 to 16
+    std::optional<std::filesystem::path> Record;    ///< the script that is written
+    std::optional<std::filesystem::path> Replay;    ///< the script that is played
+    std::optional<int> Speed;                       ///< of the replay, 1, 2 or 4; none for 1
     std::optional<int> ShownPipe; ///< file descriptor on which a predecessor waits to be told
     std::string Argument;         ///< the game's command line text, as the player wrote it
 
@@ -29,6 +32,10 @@ Options ReadOptions(std::span<char* const> words);
 
 /// The text that --help prints.
 const char* UsageText();
+
+/// The name for the recording behind one: "x-2.script" behind "x.script", and so on, with the first
+/// number for which there is no file.
+std::filesystem::path NextRecording(const std::filesystem::path& file);
 
 /// The game's command line for what the player wrote: a relative map or list is looked for in the
 /// program's directory first and then in the current one, and a host's path becomes the program's.

@@ -6,9 +6,12 @@
 #include "desktop/FirstStart.h"
 #include "desktop/GameWindow.h"
 #include "desktop/Options.h"
+#include "desktop/ScriptFiles.h"
 #include "desktop/Signals.h"
 #include "desktop/SpriteImages.h"
 #include "pictures/Catalogue.h"
+#include "windows/hands/Recorder.h"
+#include "windows/hands/Replay.h"
 
 #include <QApplication>
 #include <QPixmap>
@@ -45,9 +48,9 @@ bool HasScreen() {
            std::getenv("QT_QPA_PLATFORM") != nullptr;
 }
 
-std::unique_ptr<GameWindow> OpenWindow(frmMain& game, DesktopPlatform& platform,
+std::unique_ptr<GameWindow> OpenWindow(frmMain& game, Hands& hands, DesktopPlatform& platform,
                                        const Options& options) {
-    auto window = std::make_unique<GameWindow>(game, platform, options);
+    auto window = std::make_unique<GameWindow>(game, hands, platform, options);
     const bool isSuccessor = options.ShownPipe.has_value();
     if (isSuccessor) {
         window->showMaximized();
@@ -59,6 +62,32 @@ std::unique_ptr<GameWindow> OpenWindow(frmMain& game, DesktopPlatform& platform,
         window->show();
     }
     return window;
+}
+
+/// The same, and all that the player does is written down.
+int PlayRecorded(DesktopPlatform& platform, const Options& options) {
+    RecordingFile file(*options.Record);
+    Recorder recorder(platform, [&file](const std::string& line) { file.Write(line); });
+    const auto game = std::make_unique<frmMain>(recorder);
+    const auto window = OpenWindow(*game, recorder, platform, options);
+    const int status = QApplication::exec();
+    recorder.Finish(*game);
+    return status;
+}
+
+/// A script plays, and the player watches.
+int PlayScript(DesktopPlatform& platform, const Options& options) {
+    ReplayFile file = ReadReplay(*options.Replay, options.Argument, platform.Directory());
+    Replay replay(platform, std::move(file.Lines), std::move(file.Head), file.Map);
+    platform.Patience = [&replay, &options] {
+        constexpr int look = 1500;
+        return replay.IsOver() ? 0 : look / options.Speed.value_or(1);
+    };
+    const auto game = std::make_unique<frmMain>(replay);
+    const auto window = OpenWindow(*game, replay, platform, options);
+    const int status = QApplication::exec();
+    std::cout << replay.LastLine(*game) << std::endl;
+    return status;
 }
 
 int Run(int argc, char** argv) {
@@ -88,10 +117,13 @@ int Run(int argc, char** argv) {
     QApplication::setWindowIcon(QPixmap::fromImage(ImageOf(AppIcon(), 4, AppIconCovers)));
 
     DesktopPlatform platform(options);
-    if (options.Argument.empty()) PrepareFirstStart(platform.Directory());
-    const auto game = std::make_unique<frmMain>(platform);
-    const auto window = OpenWindow(*game, platform, options);
     QuitOnSignals([&platform] { platform.Quit(); });
+    if (options.Replay) return PlayScript(platform, options);
+    if (options.Argument.empty()) PrepareFirstStart(platform.Directory());
+    if (options.Record) return PlayRecorded(platform, options);
+    Hands player;
+    const auto game = std::make_unique<frmMain>(platform);
+    const auto window = OpenWindow(*game, player, platform, options);
     return QApplication::exec();
 }
 

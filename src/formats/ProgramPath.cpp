@@ -2,6 +2,8 @@
 // and whether a file is there is not looked at.
 #include "formats/ProgramPath.h"
 
+#include <algorithm>
+
 namespace tumbledeep {
 
 std::string getpath(std::string_view path) {
@@ -10,6 +12,12 @@ std::string getpath(std::string_view path) {
 
 std::string getfilename(std::string_view path) {
     return std::string(path.substr(path.rfind('\\') + 1));
+}
+
+std::string PathFrom(const std::string& directory, std::string path) {
+    std::replace(path.begin(), path.end(), '/', '\\');
+    if (HasDrive(path)) return path;
+    return path.starts_with('\\') ? std::string(HostDrive) + path : directory + '\\' + path;
 }
 
 std::string WithoutExtension(std::string_view name) {

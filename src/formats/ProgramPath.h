@@ -22,6 +22,10 @@ std::string getfilename(std::string_view path);
 /// The text less its last 4 characters, a file name without its extension; "" if it has fewer.
 std::string WithoutExtension(std::string_view name);
 
+/// The whole path for one that a script has: "/" counts as "\", one without a drive letter starts
+/// at a directory, one that begins with "\" at the host's root.
+std::string PathFrom(const std::string& directory, std::string path);
+
 /// Whether a name ends in ".TBM" or ".tbm"; mixed case does not count.
 constexpr bool IsMapName(std::string_view name) {
     return name.ends_with(".TBM") || name.ends_with(".tbm");

@@ -3,6 +3,7 @@
 #include "formats/Script.h"
 
 #include "base/Number.h"
+#include "formats/ScriptWords.h"
 
 #include <algorithm>
 #include <utility>
@@ -10,9 +11,6 @@
 namespace tumbledeep {
 
 namespace {
-
-/// The keys by name, in the order of Heading.
-constexpr std::array<std::string_view, 4> KeyNames{"Up", "Down", "Left", "Right"};
 
 /// Takes the text up to the next blank off the front, and the blank with it.
 std::string_view TakeWord(std::string_view& rest) {
@@ -22,7 +20,6 @@ std::string_view TakeWord(std::string_view& rest) {
     return word;
 }
 
-using Do = PlayerAct::Do;
 using To = ScriptAnswer::To;
 
 /// Reads the lines of one script.
@@ -42,25 +39,10 @@ class Reader {
     }
 
   private:
-    /// A word that says what a player does, and how the words behind it are read.
-    struct Verb {
-        std::string_view Word;
-        Do What;
-        void (Reader::*Read)(PlayerAct& act, std::string_view rest) const;
-    };
-    static const std::array<Verb, 9> Verbs;
-
-    /// A word that says what a dialog is answered.
-    struct AnswerWord {
-        std::string_view Word;
-        To What;
-        bool TakesText;
-    };
-    static constexpr std::array<AnswerWord, 5> AnswerWords{{{"yes", To::Yes, false},
-                                                            {"no", To::No, false},
-                                                            {"cancel", To::Cancel, false},
-                                                            {"text", To::Text, true},
-                                                            {"file", To::File, true}}};
+    /// By the number of what is done: how the words behind the verb are read.
+    static const std::array<void (Reader::*)(PlayerAct& act, std::string_view rest) const,
+                            VerbWords.size()>
+        Readers;
 
     [[noreturn]] void Fail(const std::string& what) const { throw script.Fault(line, what); }
 
@@ -86,11 +68,11 @@ class Reader {
         if (!script.Events.empty() && *step < script.Events.back().Step) {
             Fail("steps stand in rising order");
         }
-        const Verb& verb = Named(Verbs, TakeWord(rest),
-                                 "an event is type, press, release, click, drag, gotfocus, "
-                                 "lostfocus, menu or resize");
+        const VerbWord& verb = Named(VerbWords, TakeWord(rest),
+                                     "an event is type, press, release, click, drag, gotfocus, "
+                                     "lostfocus, menu or resize");
         ScriptEvent event{*step, {verb.What}, line};
-        (this->*verb.Read)(event.Act, rest);
+        (this->*Readers.at(static_cast<std::size_t>(verb.What)))(event.Act, rest);
         script.Events.push_back(std::move(event));
     }
 
@@ -136,20 +118,41 @@ class Reader {
     int line = 0;
 };
 
-const std::array<Reader::Verb, 9> Reader::Verbs{{{"type", Do::Type, &Reader::Typed},
-                                                 {"press", Do::Press, &Reader::Key},
-                                                 {"release", Do::Release, &Reader::Key},
-                                                 {"click", Do::Click, &Reader::Nothing},
-                                                 {"drag", Do::Drag, &Reader::Way},
-                                                 {"gotfocus", Do::GotFocus, &Reader::Nothing},
-                                                 {"lostfocus", Do::LostFocus, &Reader::Nothing},
-                                                 {"menu", Do::Menu, &Reader::Entry},
-                                                 {"resize", Do::Resize, &Reader::Size}}};
+const std::array<void (Reader::*)(PlayerAct& act, std::string_view rest) const, VerbWords.size()>
+    Reader::Readers{&Reader::Typed,   &Reader::Key,   &Reader::Key,
+                    &Reader::Nothing, &Reader::Way,   &Reader::Nothing,
+                    &Reader::Nothing, &Reader::Entry, &Reader::Size};
 
 } // namespace
 
 ScriptFault Script::Fault(int line, const std::string& what) const {
     return ScriptFault(Name + ":" + std::to_string(line) + ": " + what);
+}
+
+std::optional<ScriptAnswer> Script::NextAnswer(const std::string& dialog, bool (*fits)(To kind)) {
+    if (Answers.empty()) return std::nullopt;
+    ScriptAnswer answer = Answers.front();
+    Answers.pop_front();
+    if (!fits(answer.What)) throw Fault(answer.Line, "the answer does not fit " + dialog);
+    return answer;
+}
+
+bool Script::AnswerYes() {
+    const auto answer =
+        NextAnswer("a Yes/No box", [](To kind) { return kind == To::Yes || kind == To::No; });
+    return answer && answer->What == To::Yes;
+}
+
+std::string Script::AnswerText() {
+    const auto answer =
+        NextAnswer("an input box", [](To kind) { return kind == To::Text || kind == To::Cancel; });
+    return answer ? answer->Text : "";
+}
+
+std::string Script::AnswerFile(const std::string& why) {
+    const auto answer = NextAnswer("an open dialog" + why,
+                                   [](To kind) { return kind == To::File || kind == To::Cancel; });
+    return answer ? answer->Text : "";
 }
 
 Script ReadScript(const std::string& name, std::string_view text,

@@ -41,7 +41,28 @@ struct Script {
 
     /// A fault at a line of this script.
     ScriptFault Fault(int line, const std::string& what) const;
+
+    // The next answer is taken off, for the dialog that is asked. Each throws ScriptFault if it
+    // fits another kind of dialog.
+
+    /// Whether a Yes/No box is answered Yes. No when there is no answer left.
+    bool AnswerYes();
+    /// What is typed into an input box; "" when it is cancelled or there is no answer left.
+    std::string AnswerText();
+    /// The path chosen in an open dialog as it is written; "" as above. `why` stands behind the
+    /// words of the fault.
+    std::string AnswerFile(const std::string& why = "");
+
+  private:
+    std::optional<ScriptAnswer> NextAnswer(const std::string& dialog,
+                                           bool (*fits)(ScriptAnswer::To kind));
 };
+
+/// The line of a script for an answer or an event, with its line end; ReadScript reads it back.
+/// Twips are rounded to whole ones. A typed text that a line can't hold becomes "x": it means
+/// nothing to the game either.
+std::string LineOf(const ScriptAnswer& answer);
+std::string LineOf(const ScriptEvent& event);
 
 /// Reads the text of a script, which faults call by `name`. Throws ScriptFault at the first line
 /// that can't be read. `isEntry` tells whether a menu entry of a name can be chosen.

@@ -3,7 +3,7 @@
 #include "headless/Play.h"
 
 #include "headless/Trace.h"
-#include "windows/frmMain.h"
+#include "windows/hands/ScriptEvents.h"
 
 namespace tumbledeep {
 
@@ -38,11 +38,7 @@ void Play(const PlayOptions& options, Script script, std::ostream& lines, Timing
         if (!options.Quiet) trace.Print(game, step);
         while (step < options.Steps) {
             ++step;
-            while (!script.Events.empty() && script.Events.front().Step == step) {
-                const ScriptEvent event = script.Events.front();
-                script.Events.pop_front();
-                game.Take(event.Act);
-            }
+            TakeEvents(game, script, step);
             Period(game, step, timing);
             if (!options.Quiet) trace.Print(game, step);
         }

@@ -6,8 +6,6 @@
 #include "formats/ProgramPath.h"
 #include "host/HostFiles.h"
 
-#include <algorithm>
-
 namespace tumbledeep {
 
 ScriptedPlatform::ScriptedPlatform(const ScriptedRun& settings, Script& answers,
@@ -36,54 +34,27 @@ std::string ScriptedPlatform::Quoted(std::string_view text) const {
     return quoted + '"';
 }
 
-std::optional<ScriptAnswer> ScriptedPlatform::NextAnswer(const std::string& dialog,
-                                                         bool (*fits)(ScriptAnswer::To kind)) {
-    if (script.Answers.empty()) return std::nullopt;
-    ScriptAnswer answer = script.Answers.front();
-    script.Answers.pop_front();
-    if (!fits(answer.What)) {
-        throw script.Fault(answer.Line, "the answer does not fit " + dialog);
-    }
-    return answer;
-}
-
 int ScriptedPlatform::MsgBox(const std::string& text, int style) {
-    using To = ScriptAnswer::To;
     int result = MsgBoxAnswer::Ok;
-    if (style == MsgBoxStyle::Question || style == MsgBoxStyle::Exclamation) {
-        const auto answer =
-            NextAnswer("a Yes/No box", [](To kind) { return kind == To::Yes || kind == To::No; });
-        result = answer && answer->What == To::Yes ? MsgBoxAnswer::Yes : MsgBoxAnswer::No;
+    if (MsgBoxStyle::Asks(style)) {
+        result = script.AnswerYes() ? MsgBoxAnswer::Yes : MsgBoxAnswer::No;
     }
     out << "box " << style << ' ' << Quoted(text) << " = " << result << '\n';
     return result;
 }
 
 std::string ScriptedPlatform::InputBox(const std::string& prompt) {
-    using To = ScriptAnswer::To;
-    const auto answer =
-        NextAnswer("an input box", [](To kind) { return kind == To::Text || kind == To::Cancel; });
-    std::string text = answer ? answer->Text : "";
+    std::string text = script.AnswerText();
     out << "input " << Quoted(prompt) << " = " << Quoted(text) << '\n';
     return text;
 }
 
-/// A path without a drive letter starts at the program's directory, a host's at the host's root.
-std::string ScriptedPlatform::ChosenPath(std::string path) const {
-    std::replace(path.begin(), path.end(), '/', '\\');
-    if (HasDrive(path)) return path;
-    return path.starts_with('\\') ? std::string(HostDrive) + path : AppPath() + "\\" + path;
-}
-
 std::string ScriptedPlatform::ShowOpen(const OpenDialog& dialog) {
-    using To = ScriptAnswer::To;
     // Without this a script would be blamed for a map that is not there.
     const std::string why =
         missing.empty() ? "" : ", which asks because there is no " + Quoted(missing);
-    const auto answer = NextAnswer("an open dialog" + why,
-                                   [](To kind) { return kind == To::File || kind == To::Cancel; });
-    std::string chosen;
-    if (answer && answer->What == To::File) chosen = ChosenPath(answer->Text);
+    const std::string answer = script.AnswerFile(why);
+    const std::string chosen = answer.empty() ? "" : PathFrom(AppPath(), answer);
     out << "open " << Quoted(dialog.Title) << ' ' << Quoted(dialog.InitDir) << ' '
         << Quoted(dialog.Filter) << " = " << Quoted(chosen) << '\n';
     return chosen;

@@ -46,12 +46,6 @@ class ScriptedPlatform final : public Platform {
     void Ending() override;
 
   private:
-    /// The next answer, none if there is none left. Throws ScriptFault, which names the dialog,
-    /// for one that `fits` refuses.
-    std::optional<ScriptAnswer> NextAnswer(const std::string& dialog,
-                                           bool (*fits)(ScriptAnswer::To kind));
-    std::string ChosenPath(std::string path) const;
-
     ScriptedRun run;
     Script& script;
     std::ostream& out;

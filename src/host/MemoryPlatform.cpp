@@ -22,7 +22,7 @@ void MemoryPlatform::Note(const std::string& what, std::string text) {
 
 int MemoryPlatform::MsgBox(const std::string& text, int style) {
     Note("box " + std::to_string(style) + " ", text);
-    if (style != MsgBoxStyle::Question && style != MsgBoxStyle::Exclamation) {
+    if (!MsgBoxStyle::Asks(style)) {
         return MsgBoxAnswer::Ok;
     }
     return NextAnswer() == "yes" ? MsgBoxAnswer::Yes : MsgBoxAnswer::No;

@@ -19,6 +19,7 @@ inline constexpr int Ok = 0;
 inline constexpr int Stop = 16;
 inline constexpr int Question = 36;    ///< Yes and No
 inline constexpr int Exclamation = 52; ///< Yes and No
+constexpr bool Asks(int style) { return style == Question || style == Exclamation; }
 } // namespace MsgBoxStyle
 namespace MsgBoxAnswer {
 inline constexpr int Ok = 1;

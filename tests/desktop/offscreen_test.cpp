@@ -32,7 +32,7 @@ class Offscreen : public testing::Test {
         options.Directory = directory;
         platform = std::make_unique<DesktopPlatform>(options);
         game = std::make_unique<frmMain>(*platform);
-        window = std::make_unique<GameWindow>(*game, *platform, options);
+        window = std::make_unique<GameWindow>(*game, player, *platform, options);
         window->resize(700, 500);
         window->show();
         window->activateWindow();
@@ -100,6 +100,7 @@ class Offscreen : public testing::Test {
 
     QTemporaryDir folder;
     std::unique_ptr<DesktopPlatform> platform;
+    Hands player;
     std::unique_ptr<frmMain> game;
     std::unique_ptr<GameWindow> window;
 };

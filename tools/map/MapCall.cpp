@@ -5,6 +5,7 @@
 #include "pictures/DevicePixels.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tumbledeep {
 
@@ -22,23 +23,39 @@ int NumberFrom(std::string_view option, std::string_view text, int most) {
                     std::to_string(most));
 }
 
+struct TextOption {
+    std::string_view Name;
+    std::string MapCall::*Field;
+};
+constexpr std::array<TextOption, 3> TextOptions{
+    {{"-o", &MapCall::Output}, {"--after", &MapCall::After}, {"--goal", &MapCall::Goal}}};
+
+struct NumberOption {
+    std::string_view Name;
+    std::optional<int> MapCall::*Field;
+    int Most;
+};
+constexpr int SecondsOfADay = 86'400;
+constexpr std::array<NumberOption, 2> NumberOptions{
+    {{"--scale", &MapCall::Scale, LargestScale}, {"--seconds", &MapCall::Seconds, SecondsOfADay}}};
+
+struct Flag {
+    std::string_view Name;
+    bool MapCall::*Field;
+};
+constexpr std::array<Flag, 3> Flags{
+    {{"--json", &MapCall::Json}, {"--quick", &MapCall::Quick}, {"--greedy", &MapCall::Greedy}}};
+
 /// Takes an option that the command knows; `value` gives the word behind it.
-void TakeOption(MapCall& call, std::string_view option, const auto& value) {
-    if (option == "-o") {
-        call.Output = value();
-    } else if (option == "--scale") {
-        call.Scale = NumberFrom(option, value(), LargestScale);
-    } else if (option == "--seconds") {
-        constexpr int aDay = 86'400;
-        call.Seconds = NumberFrom(option, value(), aDay);
-    } else if (option == "--after") {
-        call.After = value();
-    } else if (option == "--goal") {
-        call.Goal = value();
-    } else if (option == "--quick") {
-        call.Quick = true;
-    } else {
-        call.Json = true;
+void TakeOption(MapCall& call, std::string_view name, const auto& value) {
+    for (const TextOption& option : TextOptions) {
+        if (option.Name == name) call.*option.Field = value();
+    }
+    for (const NumberOption& option : NumberOptions) {
+        if (option.Name == name) call.*option.Field = NumberFrom(name, value(), option.Most);
+    }
+    for (const Flag& flag : Flags) {
+        if (flag.Name == name) call.*flag.Field = true;
     }
 }
 

@@ -35,9 +35,10 @@ constexpr std::array<Command, 8> Commands{{
     {"info", "MAP [--json]", "tells size, counts, factories, and how long ticks take", Info},
     {"play", "MAP [--scale N]",
      "starts the game on the map wherever it lies; settings stay as they are", PlayMap},
-    {"solve", "MAP [-o SCRIPT] [--seconds N] [--after SCRIPT]",
+    {"solve", "MAP [-o SCRIPT] [--seconds N] [--after SCRIPT] [--greedy]",
      "searches for keys that win, on from a script's last key if one is given, for a\n"
-     "minute or N seconds; the status is 1 without any, and the best try is written",
+     "minute or N seconds; the status is 1 without any, and the best try is written;\n"
+     "or writes what a greedy player does, which may serve as a bait",
      Solve},
     {"measure", "MAP [--quick] [--json] [--goal T|M|H] [--seconds N]",
      "plays the map in many ways, with the scripts in the folder \"solutions\" beside it and\n"

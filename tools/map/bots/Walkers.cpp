@@ -56,8 +56,12 @@ RunEnd RunRandom(Board board, std::uint32_t seed, std::int64_t ticks) {
     });
 }
 
-RunEnd RunGreedy(Board board, std::int64_t ticks) {
-    return RunBeats(board, ticks, TowardsNearestGem);
+RunEnd RunGreedy(Board board, std::int64_t ticks, std::string* keys) {
+    return RunBeats(board, ticks, [&](const Board& now) {
+        const char key = TowardsNearestGem(now);
+        if (keys != nullptr) *keys += key;
+        return key;
+    });
 }
 
 } // namespace tumbledeep

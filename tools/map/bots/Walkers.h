@@ -5,6 +5,7 @@
 #include "world/Board.h"
 
 #include <cstdint>
+#include <string>
 
 namespace tumbledeep {
 
@@ -28,7 +29,7 @@ RunEnd RunIdle(Board board, std::int64_t ticks);
 /// A step any way at each beat, drawn from the seed.
 RunEnd RunRandom(Board board, std::uint32_t seed, std::int64_t ticks);
 /// A step towards the nearest gem at each beat, whatever the danger; what is in the way is pushed
-/// if it can be. Without a way to any gem it waits.
-RunEnd RunGreedy(Board board, std::int64_t ticks);
+/// if it can be. Without a way to any gem it waits. `keys`, if given, gets a sign for each beat.
+RunEnd RunGreedy(Board board, std::int64_t ticks, std::string* keys = nullptr);
 
 } // namespace tumbledeep

@@ -1,7 +1,11 @@
 // Lines of a script, and the comments above them.
 #include "map/solve/SolutionText.h"
 
+#include "formats/FieldInput.h"
+#include "formats/RecordingHead.h"
 #include "map/bots/Replay.h"
+
+#include <filesystem>
 
 namespace tumbledeep {
 
@@ -20,12 +24,13 @@ Script PlanOf(Script before, std::string_view keys, int beat) {
 }
 
 std::string SolutionText(const MapSource& map, const Script& plan) {
-    std::string text = "# map " + map.Name + "\nanswer yes\nanswer text 2\nanswer yes\n";
-    for (const ScriptEvent& event : plan.Events) {
-        text += "at " + std::to_string(event.Step) + " ";
-        text += event.Act.What == PlayerAct::Do::Type ? "type " + event.Act.Text : "click";
-        text += '\n';
-    }
+    RecordingHead head;
+    head.Map = std::filesystem::path(map.Name).stem().string() + ".TBM";
+    head.Checksum = ChecksumOf(map.IsPicture ? WriteRecords(map.Lines) : map.Bytes);
+    head.Seed = 1;
+    // A first start asks for the following view; behind a win is asked for the next map.
+    std::string text = LinesOf(head) + "answer yes\nanswer text 2\nanswer yes\n";
+    for (const ScriptEvent& event : plan.Events) text += LineOf(event);
     return text;
 }
 

@@ -86,11 +86,24 @@ class Solver {
     int nearest = std::numeric_limits<int>::max();
 };
 
+/// Writes what the greedy bot does: the plan that a map of any depth should not fall to.
+int WriteGreedy(const MapSource& source, const std::string& output) {
+    Board board = LoadSource(source);
+    PlayScript(board, {}, RestBeforePlan({}));
+    std::string keys;
+    constexpr std::int64_t aMinute = 6000;
+    const RunEnd end = RunGreedy(std::move(board), aMinute, &keys);
+    WriteTo(output, SolutionText(source, PlanOf({}, keys, BeatTicks)));
+    std::cerr << source.Name << ": the greedy bot " << (end.IsWon() ? "wins\n" : "does not win\n");
+    return 0;
+}
+
 } // namespace
 
 int Solve(Words words) {
-    const MapCall call = ReadMapCall(words, {"-o", "--seconds", "--after"});
+    const MapCall call = ReadMapCall(words, {"-o", "--seconds", "--after", "--greedy"});
     const MapSource source = ReadMapSource(call.Map);
+    if (call.Greedy) return WriteGreedy(source, call.Output);
     Script before;
     if (!call.After.empty()) before = ScriptFrom(call.After);
     constexpr int usualSeconds = 60;

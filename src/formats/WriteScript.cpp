@@ -1,0 +1,53 @@
+// How the lines of a script are written, in the words by which they are read.
+#include "formats/Script.h"
+
+#include "formats/ScriptWords.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tumbledeep {
+
+namespace {
+
+using Do = PlayerAct::Do;
+
+/// The words behind the verb.
+std::string WordsOf(const PlayerAct& act) {
+    const auto whole = [](float twips) { return std::to_string(std::lround(twips)); };
+    switch (act.What) {
+    case Do::Type: {
+        const bool fits = !act.Text.empty() && std::ranges::none_of(act.Text, [](char c) {
+            return static_cast<unsigned char>(c) < ' ';
+        });
+        return fits ? act.Text : "x";
+    }
+    case Do::Press:
+    case Do::Release: return std::string(KeyNames[Index(act.Key)]);
+    case Do::Drag: return whole(act.X) + ' ' + whole(act.Y);
+    case Do::Menu: return act.Text;
+    case Do::Resize: return whole(act.X) + 'x' + whole(act.Y);
+    default: return "";
+    }
+}
+
+} // namespace
+
+std::string LineOf(const ScriptAnswer& answer) {
+    const auto& row = *std::ranges::find(AnswerWords, answer.What, &AnswerWord::What);
+    std::string line = "answer ";
+    line += row.Word;
+    if (row.TakesText) line.append(" ").append(answer.Text);
+    return line += '\n';
+}
+
+std::string LineOf(const ScriptEvent& event) {
+    const auto& row = *std::ranges::find(VerbWords, event.Act.What, &VerbWord::What);
+    std::string line = "at " + std::to_string(event.Step) + ' ';
+    line += row.Word;
+    const std::string words = WordsOf(event.Act);
+    if (!words.empty()) line.append(" ").append(words);
+    return line += '\n';
+}
+
+} // namespace tumbledeep
