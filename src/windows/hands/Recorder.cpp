@@ -39,10 +39,10 @@ void Recorder::Start(frmMain& game) {
 void Recorder::WriteHead(const frmMain& game) {
     write("# recorded by tumbledeep; to see it: tumbledeep --replay FILE\n" + LinesOf(head));
     const frmDocument& board = game.ActiveChild;
-    Note({board.AutoMoveOn ? To::Yes : To::No, "", 0});
+    NoteAnswer({board.AutoMoveOn ? To::Yes : To::No, "", 0});
     if (!board.AutoMoveOn) return;
     const int mode = static_cast<int>(board.AutoMoveMode);
-    Note({To::Text, std::to_string(std::clamp(mode, 1, 3)), 0});
+    NoteAnswer({To::Text, std::to_string(std::clamp(mode, 1, 3)), 0});
 }
 
 void Recorder::Act(frmMain& game, const PlayerAct& act) {
@@ -65,25 +65,25 @@ void Recorder::Finish(const frmMain& game) {
           std::to_string(game.ActiveChild.TickCount) + '\n');
 }
 
-void Recorder::Note(const ScriptAnswer& answer) { write(LineOf(answer)); }
+void Recorder::NoteAnswer(const ScriptAnswer& answer) { write(LineOf(answer)); }
 
 int Recorder::MsgBox(const std::string& text, int style) {
     const int answer = inner.MsgBox(text, style);
     if (isStarted && MsgBoxStyle::Asks(style)) {
-        Note({answer == MsgBoxAnswer::Yes ? To::Yes : To::No, "", 0});
+        NoteAnswer({answer == MsgBoxAnswer::Yes ? To::Yes : To::No, "", 0});
     }
     return answer;
 }
 
 std::string Recorder::InputBox(const std::string& prompt) {
     std::string text = inner.InputBox(prompt);
-    if (isStarted) Note({text.empty() ? To::Cancel : To::Text, text, 0});
+    if (isStarted) NoteAnswer({text.empty() ? To::Cancel : To::Text, text, 0});
     return text;
 }
 
 std::string Recorder::ShowOpen(const OpenDialog& dialog) {
     std::string path = inner.ShowOpen(dialog);
-    if (isStarted) Note({path.empty() ? To::Cancel : To::File, path, 0});
+    if (isStarted) NoteAnswer({path.empty() ? To::Cancel : To::File, path, 0});
     return path;
 }
 

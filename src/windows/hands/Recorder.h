@@ -49,7 +49,7 @@ class Recorder final : public Hands, public Platform {
     /// Lets the game do something, in a step by the trace's count, and takes note of its end.
     void Watch(const frmMain& game, std::int64_t step, const std::function<void()>& something);
     void WriteHead(const frmMain& game);
-    void Note(const ScriptAnswer& answer);
+    void NoteAnswer(const ScriptAnswer& answer);
 
     Platform& inner;
     std::function<void(const std::string&)> write;

@@ -30,23 +30,25 @@ Cell PlayerCell(const Board& board) {
     return {GridIndex(board.YouCol), GridIndex(static_cast<float>(board.YouRow))};
 }
 
-Ways::Ways(const Board& board, Through rule)
+Ways::Ways(const Board& board, Through rule, int gemsWanted)
     : marks(static_cast<std::size_t>(Cell::RowLength) *
             static_cast<std::size_t>(board.Area.UsedRows() + 2 * Cell::Margin + 1)) {
-    Spread(board, PlayerCell(board), rule);
+    Spread(board, PlayerCell(board), rule, gemsWanted);
 }
 
-void Ways::Spread(const Board& board, Cell from, Through rule) {
+void Ways::Spread(const Board& board, Cell from, Through rule, int gemsWanted) {
     if (from.Number() >= marks.size()) return;
     std::array<std::vector<Cell>, Queues> queues;
     marks[from.Number()].Far = 0;
     queues[0].push_back(from);
     std::size_t waiting = 1;
-    for (int far = 0; waiting > 0 && far < None - static_cast<int>(Queues); ++far) {
+    const int farthest = None - static_cast<int>(Queues);
+    for (int far = 0; waiting > 0 && gemsWanted > 0 && far < farthest; ++far) {
         std::vector<Cell>& queue = queues.at(static_cast<std::size_t>(far) % Queues);
         waiting -= queue.size();
         for (const Cell cell : queue) {
             if (marks[cell.Number()].Far != far) continue;
+            if (board.Area(cell) == Kind::Gem1Type) --gemsWanted;
             for (const Heading way : Headings) {
                 const Cell next = cell + Ahead(way);
                 if (next.Number() >= marks.size()) continue;

@@ -18,7 +18,8 @@ class Ways {
     };
     static constexpr int None = std::numeric_limits<std::int16_t>::max();
 
-    Ways(const Board& board, Through rule);
+    /// Looks no farther than to so many gems.
+    Ways(const Board& board, Through rule, int gemsWanted = std::numeric_limits<int>::max());
 
     /// Steps to a cell of the grid, those through what is in the way counted several times; None
     /// without a way.
@@ -27,7 +28,7 @@ class Ways {
     char FirstKey(Cell cell) const;
 
   private:
-    void Spread(const Board& board, Cell from, Through rule);
+    void Spread(const Board& board, Cell from, Through rule, int gemsWanted);
 
     struct Mark {
         std::int16_t Far = None;

@@ -98,6 +98,7 @@ class Measuring {
     void SearchBot(MapMeasure& measure, int seconds) {
         SearchOptions options;
         options.Until = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
+        options.Width = FirstWidth(start);
         SearchMeasure search;
         constexpr int widest = 20'000;
         for (; options.Width <= widest && !search.IsWon; options.Width *= 4) {

@@ -158,6 +158,15 @@ bool Wins(const Team& start, const std::string& keys) {
 
 } // namespace
 
+int FirstWidth(const Board& start) {
+    constexpr int usual = 50;
+    constexpr int narrow = 10;
+    constexpr int many = 3000;
+    int sprites = 0;
+    for (const KindRow& row : PoolKinds()) sprites += start.Pools[row.Which].Count();
+    return sprites < many ? usual : narrow;
+}
+
 SearchEnd Search(const Board& start, const SearchOptions& options, const SearchNews& news) {
     return Beam(start, options).Run(news);
 }

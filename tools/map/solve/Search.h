@@ -32,6 +32,9 @@ struct SearchEnd {
 /// What a search tells now and then: gems left at best, and beats played.
 using SearchNews = std::function<void(int gemsLeft, int beats)>;
 
+/// A width to begin with: less for maps of many objects, whose boards take long to copy.
+int FirstWidth(const Board& start);
+
 /// Searches from a map's start. All cores take part.
 SearchEnd Search(const Board& start, const SearchOptions& options, const SearchNews& news);
 

@@ -32,6 +32,7 @@ class Solver {
           until(std::chrono::steady_clock::now() + std::chrono::seconds(seconds)) {
         options.Before = std::move(before);
         options.Until = until;
+        options.Width = FirstWidth(start);
     }
 
     Found Run() {

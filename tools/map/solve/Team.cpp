@@ -25,25 +25,29 @@ int LatenessOf(std::size_t game, int beat) {
     return static_cast<int>((hash.Value() >> fineBits) % (LatestTicks + 1));
 }
 
+/// What there is most of, and what never moves.
+bool IsScenery(Kind kind) { return kind == Kind::HardDirt || kind == Kind::Dirt; }
+
 float HopeOf(const Board& board) {
     constexpr float aGem = 1000;
-    constexpr float lost = 3000;
+    constexpr float lost = 1000;
     constexpr float nearestWeight = 5;
-    const Ways ways(board, Ways::Through::Hopeful);
+    // Those farther away are for later; a flood over all of a giant would take most of the time.
+    constexpr int gemsWanted = 12;
+    const Ways ways(board, Ways::Through::Hopeful, gemsWanted);
     const Pool& gems = board.Pools[Kind::Gem1Type];
     float nearest = lost;
     float sum = 0;
     int count = 0;
     for (const int gem : gems.InTurn()) {
         const int far = ways.To(gems.CellOf(gem));
-        const float price = far == Ways::None ? lost : static_cast<float>(far);
-        nearest = std::min(nearest, price);
-        sum += price;
+        if (far == Ways::None) continue;
+        nearest = std::min(nearest, static_cast<float>(far));
+        sum += static_cast<float>(far);
         ++count;
     }
-    if (count == 0) return 0;
-    return aGem * static_cast<float>(GemsOf(board)) + nearestWeight * nearest +
-           sum / static_cast<float>(count);
+    const float mean = count == 0 ? lost : sum / static_cast<float>(count);
+    return aGem * static_cast<float>(GemsOf(board)) + nearestWeight * nearest + mean;
 }
 
 } // namespace
@@ -92,15 +96,28 @@ float Team::Hope() const {
 
 std::uint64_t Team::Likeness() const {
     Hash hash;
-    for (const Game& game : games) hash.Add(game.IsWon ? 0 : game.Now.HashValue());
+    for (const Game& game : games) {
+        hash.Add(game.IsWon);
+        if (game.IsWon) continue;
+        hash.Add(PlayerCell(game.Now).Number());
+        hash.Add(game.Now.Pools[Kind::Dirt].HiddenCount());
+        for (const KindRow& row : PoolKinds()) {
+            if (IsScenery(row.Which)) continue;
+            const Pool& pool = game.Now.Pools[row.Which];
+            for (const int index : pool.InTurn()) {
+                hash.Add(index);
+                hash.Add(pool.CellOf(index).Number());
+                hash.Add(static_cast<int>(pool[index].Tag));
+            }
+        }
+    }
     return hash.Value();
 }
 
 std::uint64_t Team::Stock() const {
     Hash hash;
     for (const PoolSet& pools = games.front().Now.Pools; const KindRow& row : PoolKinds()) {
-        if (row.Which == Kind::HardDirt || row.Which == Kind::Dirt || row.Which == Kind::Bang)
-            continue;
+        if (IsScenery(row.Which) || row.Which == Kind::Bang) continue;
         const Pool& pool = pools[row.Which];
         for (const int index : pool.InTurn()) {
             hash.Add(index);

@@ -26,7 +26,7 @@ class Team {
     int GemsLeft() const;
     /// Less is better: gems left, and how far they are from the player, in the worst of the games.
     float Hope() const;
-    /// Equal for teams that will play on alike.
+    /// Equal for teams that will play on alike, but for which of their dirt is gone.
     std::uint64_t Likeness() const;
     /// Equal for teams with the same gems, rocks and mines left in the same places but the mines'.
     std::uint64_t Stock() const;
