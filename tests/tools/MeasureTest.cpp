@@ -58,7 +58,7 @@ TEST(Measure, ScriptsOfAMapAreFoundAndHeldToTheirClass) {
     const char* const wins = "at 9 press Right\nat 60 type d\nat 72 type s\n";
     const MapMeasure good = Measured(board, {wins, "at 9 type d\n"});
     EXPECT_THAT(Misses(good, 'M'), IsEmpty());
-    EXPECT_EQ(good.Best()->Keys, 3);
+    EXPECT_EQ(good.Best()->Study.Keys, 3);
     EXPECT_THAT(Misses(Measured(board, {wins, wins}), 'H'),
                 ElementsAre("m.bait.script wins 100 in 100, at most 0 in 100"));
     EXPECT_THAT(Misses(Measured(board), 'M'),

@@ -20,6 +20,7 @@ Progress::~Progress() {
 
 void Progress::Show(double done, const std::string& what) {
     if (!isShown) return;
+    const std::lock_guard guard(mutex);
     constexpr int width = 24;
     const int filled = static_cast<int>(std::clamp(done, 0.0, 1.0) * width);
     std::string bar(static_cast<std::size_t>(filled), '#');

@@ -2,6 +2,7 @@
 // nothing.
 #pragma once
 
+#include <mutex>
 #include <string>
 
 namespace tumbledeep {
@@ -15,13 +16,14 @@ class Progress {
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
 
-    /// Shows how much is done, from 0 to 1, and what of.
+    /// Shows how much is done, from 0 to 1, and what of. Any thread may call it.
     void Show(double done, const std::string& what);
 
   private:
     std::string subject;
     bool isShown;
     std::string last;
+    std::mutex mutex;
 };
 
 } // namespace tumbledeep

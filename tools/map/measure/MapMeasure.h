@@ -6,6 +6,7 @@
 #include "map/bots/Walkers.h"
 #include "map/info/MapInfo.h"
 #include "map/measure/Scripts.h"
+#include "map/measure/SolutionWatch.h"
 
 #include <optional>
 #include <string>
@@ -18,10 +19,9 @@ class Progress;
 /// What a script does on its map. Shares and parts are from 0 to 1.
 struct ScriptMeasure {
     std::string File;
-    int Keys = 0;        ///< steps and presses of arrows
-    double Seconds = 0;  ///< until the map ends, with the seed 1
     double Wins = 0;     ///< part of the seeds
     double LateWins = 0; ///< part of the seeds when each act is late at random: the slack
+    SolutionStudy Study; ///< of the run with the seed 1
 };
 
 /// What the search bot came to.
@@ -39,9 +39,6 @@ struct MapMeasure {
     int Seeds = 0;           ///< that the scripts were played with
     std::vector<ScriptMeasure> Solutions; ///< the best one first
     std::vector<ScriptMeasure> Baits;
-    double WaitingShare = 0; ///< part of the best solution's time spent waiting
-    double LongestWait = 0;  ///< in seconds
-    double UsedShare = 0;    ///< part of the map's objects that the best solution has to do with
     /// In milliseconds, in the first minute and the best solution; none from a quick look.
     std::optional<double> WorstTick;
     std::optional<double> RandomWins; ///< part of the runs of the random bot; none if not asked for

@@ -5,9 +5,11 @@
 //     safe_first_steps             of 4
 //     dead_gems                    that no play can get
 //     seeds                        that each script was played with
-//     solutions, baits             the best first; each with file, keys, seconds, wins, late_wins
-//     waiting, longest_wait        part of the best solution's time, and in seconds
-//     used                         part of the objects that the best solution has to do with
+//     solutions, baits             the best first, each with
+//         file, keys, seconds
+//         wins, late_wins          parts of the seeds, on time and with late keys
+//         waiting, longest_wait    part of its time, and in seconds
+//         used                     part of the map's objects that it has to do with
 //     worst_tick_ms                null from a quick look
 //     random, greedy               parts of the bots' runs that win
 //     search                       won, boards
@@ -30,10 +32,13 @@ Json ScriptsJson(const std::vector<ScriptMeasure>& scripts) {
     Json all = Json::array();
     for (const ScriptMeasure& script : scripts) {
         all.push_back({{"file", script.File},
-                       {"keys", script.Keys},
-                       {"seconds", script.Seconds},
+                       {"keys", script.Study.Keys},
+                       {"seconds", script.Study.Seconds},
                        {"wins", script.Wins},
-                       {"late_wins", script.LateWins}});
+                       {"late_wins", script.LateWins},
+                       {"waiting", script.Study.WaitingShare},
+                       {"longest_wait", script.Study.LongestWait},
+                       {"used", script.Study.UsedShare}});
     }
     return all;
 }
@@ -60,9 +65,6 @@ std::string JsonOf(const MapMeasure& measure, const std::vector<std::string>& mi
         {"seeds", measure.Seeds},
         {"solutions", ScriptsJson(measure.Solutions)},
         {"baits", ScriptsJson(measure.Baits)},
-        {"waiting", measure.WaitingShare},
-        {"longest_wait", measure.LongestWait},
-        {"used", measure.UsedShare},
         {"worst_tick_ms", Maybe(measure.WorstTick)},
         {"random", Maybe(measure.RandomWins)},
         {"greedy", Maybe(measure.GreedyWins)},

@@ -5,7 +5,6 @@
 #include "map/bots/Replay.h"
 #include "map/check/Checks.h"
 #include "map/measure/MapMeasure.h"
-#include "map/measure/SolutionWatch.h"
 #include "map/solve/Search.h"
 
 #include <algorithm>
@@ -42,21 +41,9 @@ class Measuring {
     ScriptMeasure Try(const std::filesystem::path& file, int seeds) {
         bar.Show(0, file.filename().string());
         const Script script = ScriptFrom(file.string());
-        const SolutionStudy study = Watch(start, script);
         const auto part = [&](int wins) { return static_cast<double>(wins) / seeds; };
-        constexpr double ticksPerSecond = 100;
-        return {file.filename().string(), study.Keys,
-                static_cast<double>(study.End.Ticks) / ticksPerSecond,
-                part(CountWins(start, script, seeds, false)),
-                part(seeds > 1 ? CountWins(start, script, seeds, true) : 0)};
-    }
-
-    void StudyBest(MapMeasure& measure, const std::filesystem::path& file) {
-        const SolutionStudy study = Watch(start, ScriptFrom(file.string()));
-        measure.WaitingShare = study.WaitingShare;
-        measure.LongestWait = study.LongestWait;
-        measure.UsedShare = study.UsedShare;
-        if (measure.WorstTick) measure.WorstTick = std::max(*measure.WorstTick, study.WorstTick);
+        return {file.filename().string(), part(CountWins(start, script, seeds, false)),
+                part(seeds > 1 ? CountWins(start, script, seeds, true) : 0), Watch(start, script)};
     }
 
     /// The part of a bot's runs that win; `run` gets a board and a seed.
@@ -68,9 +55,8 @@ class Measuring {
             Board board = start;
             board.Randomize(seed);
             wins += run(std::move(board), seed).IsWon();
-            ++done;
+            bar.Show(static_cast<double>(++done) / runs, name);
         });
-        bar.Show(1, name);
         return static_cast<double>(wins) / runs;
     }
 
@@ -79,17 +65,15 @@ class Measuring {
         const ScriptMeasure* const best = measure.Best();
         constexpr double ticksPerSecond = 100;
         constexpr double patience = 3;
-        const double needed = best == nullptr ? 0 : best->Seconds * ticksPerSecond * patience;
+        const double needed = best == nullptr ? 0 : best->Study.Seconds * ticksPerSecond * patience;
         return std::max<std::int64_t>(MinuteTicks, std::llround(needed));
     }
 
     void Bots(MapMeasure& measure) {
         const std::int64_t ticks = BotTicks(measure);
-        bar.Show(0, "random bot");
         measure.RandomWins = Bot("random bot", RandomRuns, [&](Board board, std::uint32_t seed) {
             return RunRandom(std::move(board), seed, MinuteTicks);
         });
-        bar.Show(0, "greedy bot");
         measure.GreedyWins = Bot("greedy bot", GreedyRuns, [&](Board board, std::uint32_t) {
             return RunGreedy(std::move(board), ticks);
         });
@@ -97,16 +81,20 @@ class Measuring {
 
     void SearchBot(MapMeasure& measure, int seconds) {
         SearchOptions options;
-        options.Until = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
+        const auto begun = std::chrono::steady_clock::now();
+        options.Until = begun + std::chrono::seconds(seconds);
         options.Width = FirstWidth(start);
         SearchMeasure search;
         constexpr int widest = 20'000;
         for (; options.Width <= widest && !search.IsWon; options.Width *= 4) {
             const SearchEnd end = Search(start, options, [&](int gemsLeft, int beats) {
                 search.Boards += options.Width;
-                bar.Show(0.5, "search of " + std::to_string(options.Width) +
-                                  " boards: " + std::to_string(gemsLeft) + " gems left after " +
-                                  std::to_string(beats) + " beats");
+                const std::chrono::duration<double> spent =
+                    std::chrono::steady_clock::now() - begun;
+                bar.Show(spent.count() / seconds, "search of " + std::to_string(options.Width) +
+                                                      " boards: " + std::to_string(gemsLeft) +
+                                                      " gems left after " + std::to_string(beats) +
+                                                      " beats");
             });
             search.IsWon = end.IsWon;
             if (end.TimeIsOver) break;
@@ -122,17 +110,18 @@ class Measuring {
 
 void TakeScripts(MapMeasure& measure, Measuring& measuring) {
     const MapScripts scripts = ScriptsOf(measure.Info.Name);
-    std::vector<std::pair<ScriptMeasure, std::filesystem::path>> solutions;
     for (const auto& file : scripts.Solutions) {
-        solutions.emplace_back(measuring.Try(file, measure.Seeds), file);
+        measure.Solutions.push_back(measuring.Try(file, measure.Seeds));
     }
-    std::stable_sort(solutions.begin(), solutions.end(), [](const auto& a, const auto& b) {
-        return a.first.Wins + a.first.LateWins > b.first.Wins + b.first.LateWins;
-    });
-    if (!solutions.empty()) measuring.StudyBest(measure, solutions.front().second);
-    for (auto& solution : solutions) measure.Solutions.push_back(std::move(solution.first));
+    std::stable_sort(measure.Solutions.begin(), measure.Solutions.end(),
+                     [](const ScriptMeasure& a, const ScriptMeasure& b) {
+                         return a.Wins + a.LateWins > b.Wins + b.LateWins;
+                     });
     for (const auto& file : scripts.Baits) {
         measure.Baits.push_back(measuring.Try(file, measure.Seeds));
+    }
+    if (measure.WorstTick && measure.Best() != nullptr) {
+        measure.WorstTick = std::max(*measure.WorstTick, measure.Best()->Study.WorstTick);
     }
 }
 
@@ -166,7 +155,7 @@ std::optional<double> MapMeasure::Difficulty() const {
     // A search of 100 boards is no labour, one of three million is all that can be asked for.
     const double labour =
         (std::log10(static_cast<double>(std::max<std::int64_t>(100, Search->Boards))) - 2) / 4.5;
-    const double length = std::log2(std::max(20, Best()->Keys) / 20.0) / 5;
+    const double length = std::log2(std::max(20, Best()->Study.Keys) / 20.0) / 5;
     constexpr double quarter = 25;
     return quarter * (1 - *GreedyWins + 1 - Best()->LateWins +
                       (Search->IsWon ? std::min(1.0, labour) : 1.0) + std::min(1.0, length));

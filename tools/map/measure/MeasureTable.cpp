@@ -28,8 +28,8 @@ class Table {
 };
 
 void AddScript(Table& table, std::string_view label, const ScriptMeasure& script) {
-    table.Line(label) << script.File << ": " << script.Keys << " keys, " << std::fixed
-                      << std::setprecision(1) << script.Seconds << " s, wins "
+    table.Line(label) << script.File << ": " << script.Study.Keys << " keys, " << std::fixed
+                      << std::setprecision(1) << script.Study.Seconds << " s, wins "
                       << Percent(script.Wins) << ", with late keys " << Percent(script.LateWins);
 }
 
@@ -48,10 +48,10 @@ std::string TableOf(const MapMeasure& measure) {
     table.Line("dead gems") << measure.DeadGems;
     for (const ScriptMeasure& script : measure.Solutions) AddScript(table, "solution", script);
     for (const ScriptMeasure& script : measure.Baits) AddScript(table, "bait", script);
-    if (measure.Best() != nullptr) {
-        table.Line("waiting") << Percent(measure.WaitingShare) << ", at most " << std::fixed
-                              << std::setprecision(1) << measure.LongestWait << " s";
-        table.Line("objects used") << Percent(measure.UsedShare);
+    if (const ScriptMeasure* const best = measure.Best()) {
+        table.Line("waiting") << Percent(best->Study.WaitingShare) << ", at most " << std::fixed
+                              << std::setprecision(1) << best->Study.LongestWait << " s";
+        table.Line("objects used") << Percent(best->Study.UsedShare);
     }
     if (measure.WorstTick) {
         table.Line("worst tick") << std::fixed << std::setprecision(3) << *measure.WorstTick

@@ -97,6 +97,7 @@ SolutionStudy Watch(const Board& start, const Script& script) {
         uses.See(now);
         timing.TickBegins();
     });
+    study.Seconds = static_cast<double>(study.End.Ticks) / TicksPerSecond;
     study.UsedShare = uses.Share();
     study.WorstTick = timing.WorstTime();
     return study;

@@ -9,11 +9,12 @@ namespace tumbledeep {
 
 struct SolutionStudy {
     RunEnd End;
-    int Keys = 0;
-    double WaitingShare = 0;
-    double LongestWait = 0;
-    double UsedShare = 0;
-    double WorstTick = 0;
+    int Keys = 0;            ///< steps and presses of arrows
+    double Seconds = 0;      ///< until the map ends
+    double WaitingShare = 0; ///< part of that time spent waiting
+    double LongestWait = 0;  ///< in seconds
+    double UsedShare = 0;    ///< part of the map's objects that the script has to do with
+    double WorstTick = 0;    ///< in milliseconds
 };
 
 /// Plays a script from a start, and watches.
