@@ -92,6 +92,10 @@ TEST(Hands, BehindAScriptTheKeysAreThePlayers) {
     EXPECT_TRUE(replay.MapHasChanged());
     replay.Act(game, {Do::Type, "s"});
     EXPECT_EQ(game.ActiveChild.YouRow, 1);
+    replay.Act(game, {Do::Type, "p"});
+    replay.Period(game);
+    EXPECT_EQ(game.ActiveChild.TickCount, 0) << "the watcher has made it wait";
+    replay.Act(game, {Do::Type, "p"});
     for (int step = 0; step < 105; ++step) replay.Period(game);
     EXPECT_TRUE(replay.IsOver());
     const float column = game.ActiveChild.YouCol;

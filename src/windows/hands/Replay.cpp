@@ -37,10 +37,12 @@ void Replay::Start(frmMain& game) {
 }
 
 void Replay::Act(frmMain& game, const PlayerAct& act) {
-    if (isOver || act.What == PlayerAct::Do::Resize) game.Take(act);
+    if (isOver || act.What == PlayerAct::Do::Resize) return game.Take(act);
+    if (act.What == PlayerAct::Do::Type && act.Text == "p") waits = !waits;
 }
 
 void Replay::Period(frmMain& game) {
+    if (waits) return;
     ++step;
     if (!isOver) {
         for (const ScriptEvent& event : script.Events) {
@@ -66,7 +68,7 @@ void Replay::Show(const PlayerAct& act) {
 
 std::string Replay::Note() const {
     if (isOver) return "The replay is over, the keys are yours";
-    std::string spaced = "Replay:";
+    std::string spaced = waits ? "Replay waits, p goes on:" : "Replay:";
     for (const char key : keys) spaced.append({' ', key});
     return spaced;
 }

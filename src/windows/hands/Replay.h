@@ -26,7 +26,8 @@ class Replay final : public Hands, public Platform {
     std::string LastLine(const frmMain& game) const;
 
     void Start(frmMain& game) override;
-    /// What the player does counts once the script is over.
+    /// What the player does counts once the script is over; until then "p" alone, which makes the
+    /// script wait and go on.
     void Act(frmMain& game, const PlayerAct& act) override;
     void Period(frmMain& game) override;
     bool NeedsPeriods() const override { return !isOver; }
@@ -64,6 +65,7 @@ class Replay final : public Hands, public Platform {
     std::int64_t overAt = 0;
     bool isStarted = false;
     bool isOver = false;
+    bool waits = false; ///< by the watcher's "p"
     bool mapHasChanged = false;
 };
 

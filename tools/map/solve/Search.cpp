@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <mutex>
+#include <stdexcept>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -34,7 +34,7 @@ class Beam {
   public:
     Beam(const Board& start, const SearchOptions& how) : options(how) {
         Team first(start, options.Games, options.Before);
-        if (first.IsLost()) return;
+        if (first.IsLost()) throw std::runtime_error("the script to go on from loses the map");
         best.GemsLeft = first.GemsLeft();
         best.IsWon = first.IsWon();
         generation.push_back({std::move(first), ""});

@@ -35,7 +35,8 @@ using SearchNews = std::function<void(int gemsLeft, int beats)>;
 /// A width to begin with: less for maps of many objects, whose boards take long to copy.
 int FirstWidth(const Board& start);
 
-/// Searches from a map's start. All cores take part.
+/// Searches from a map's start. All cores take part. Throws std::runtime_error if `Before` loses
+/// the map with the seed 1.
 SearchEnd Search(const Board& start, const SearchOptions& options, const SearchNews& news);
 
 /// Leaves out beats that a plan can do without, one after the other, as long as the games of the

@@ -55,14 +55,20 @@ float HopeOf(const Board& board) {
 Team::Team(const Board& start, int count, const Script& before) {
     for (int i = 0; i < count; ++i) {
         const auto seed = static_cast<std::uint32_t>(i + 1);
-        games.push_back({start});
-        Game& game = games.back();
-        game.Now.Randomize(seed);
-        const RunEnd run =
-            PlayScript(game.Now, i == 0 ? before : Late(before, seed), RestBeforePlan(before));
-        game.IsWon = run.IsWon();
-        isLost = isLost || (run.IsOver() && !run.IsWon());
+        // A script that does not hold for every seed and hand goes on where it does.
+        if (i > 0 && (Join(start, seed, Late(before, seed)) || Join(start, seed, before))) continue;
+        isLost = !Join(start, 1, before);
     }
+}
+
+bool Team::Join(const Board& start, std::uint32_t seed, const Script& before) {
+    Game game{start};
+    game.Now.Randomize(seed);
+    const RunEnd run = PlayScript(game.Now, before, RestBeforePlan(before));
+    game.IsWon = run.IsWon();
+    if (run.IsOver() && !run.IsWon()) return false;
+    games.push_back(std::move(game));
+    return true;
 }
 
 bool Team::Play(char key) {

@@ -32,6 +32,9 @@ class Team {
     std::uint64_t Stock() const;
 
   private:
+    /// Adds a game in which a script has been played, unless that loses it.
+    bool Join(const Board& start, std::uint32_t seed, const Script& before);
+
     struct Game {
         Board Now;
         bool IsWon = false;
