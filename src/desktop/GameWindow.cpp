@@ -125,7 +125,10 @@ void GameWindow::Sync() {
         actions[i]->setCheckable(true);
         actions[i]->setChecked(checked);
     }
-    note->setText(QString::fromStdString(hands.Note()));
+    if (const std::string told = hands.Note(); told != shownNote) {
+        shownNote = told;
+        note->setText(QString::fromStdString(shownNote));
+    }
     const bool runs = started && openDialogs == 0 &&
                       (game.ActiveChild.Interval100Timer.Enabled || hands.NeedsPeriods());
     if (runs && !timer.isActive()) timer.start();

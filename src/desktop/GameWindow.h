@@ -58,6 +58,7 @@ class GameWindow final : public QMainWindow {
     std::vector<QAction*> actions; ///< by index in the game's menu, nullptr for a submenu
     std::string shownCaption;
     std::string shownStatus;
+    std::string shownNote;
     QTimer timer;
     int openDialogs = 0;
     int shownPipe; ///< where a predecessor waits to be told that this window is up; then -1

@@ -76,7 +76,7 @@ int PlayRecorded(DesktopPlatform& platform, const Options& options) {
 }
 
 /// A script plays, and the player watches.
-int PlayScript(DesktopPlatform& platform, const Options& options) {
+int PlayReplay(DesktopPlatform& platform, const Options& options) {
     ReplayFile file = ReadReplay(*options.Replay, options.Argument, platform.Directory());
     Replay replay(platform, std::move(file.Lines), std::move(file.Head), file.Map);
     platform.Patience = [&replay, &options] {
@@ -118,7 +118,7 @@ int Run(int argc, char** argv) {
 
     DesktopPlatform platform(options);
     QuitOnSignals([&platform] { platform.Quit(); });
-    if (options.Replay) return PlayScript(platform, options);
+    if (options.Replay) return PlayReplay(platform, options);
     if (options.Argument.empty()) PrepareFirstStart(platform.Directory());
     if (options.Record) return PlayRecorded(platform, options);
     Hands player;
