@@ -54,7 +54,7 @@ std::string ScriptedPlatform::ShowOpen(const OpenDialog& dialog) {
     const std::string why =
         missing.empty() ? "" : ", which asks because there is no " + Quoted(missing);
     const std::string answer = script.AnswerFile(why);
-    const std::string chosen = answer.empty() ? "" : PathFrom(AppPath(), answer);
+    std::string chosen = answer.empty() ? "" : PathFrom(AppPath(), answer);
     out << "open " << Quoted(dialog.Title) << ' ' << Quoted(dialog.InitDir) << ' '
         << Quoted(dialog.Filter) << " = " << Quoted(chosen) << '\n';
     return chosen;
