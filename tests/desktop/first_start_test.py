@@ -17,8 +17,9 @@ class FirstStart(screen.GameTest):
         self.screen.answer("2", "Return")     # gradual centre
         self.assertEqual(["True", "2", "Default"],
                          [self.setting(key) for key in ("MOVE", "MODE", "MAPLIST")])
-        solution = (screen.SOLUTIONS / (maps[0] + ".txt")).read_text()
-        self.walk(line.split()[3] for line in solution.splitlines() if line.startswith("at "))
+        solution = (screen.SOLUTIONS / (maps[0] + ".script")).read_text()
+        keys = [line.split()[3] for line in solution.splitlines() if line.startswith("at ")]
+        self.screen.hands("key", "--delay", "100", *keys)
         self.screen.answer("Return")          # You won
         self.screen.answer("Return")          # the next level? Yes
         self.wait_for_successor(first)
