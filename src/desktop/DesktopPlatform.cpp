@@ -1,9 +1,14 @@
 // What the game asks, answered with Qt: dialogs are its own, which take the desktop's look where it
-// offers one. Files and settings are host/HostFiles.h's.
+// offers one. Files and settings are the host's.
 #include "desktop/DesktopPlatform.h"
 
+#include "base/Failure.h"
+#include "desktop/LongText.h"
+#include "formats/Profile.h"
 #include "formats/ProgramPath.h"
 #include "host/HostFiles.h"
+#include "host/HostPaths.h"
+#include "host/SettingsFile.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -12,6 +17,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <iostream>
 
 namespace tumbledeep {
 
@@ -20,6 +26,18 @@ namespace {
 constexpr const char* Title = "Tumbledeep";
 /// How long this window stays up at most while the next process has not painted its own.
 constexpr std::chrono::milliseconds LongestGap{1000};
+/// In bytes. The system takes no longer word on a command line.
+constexpr std::size_t LongestWord = 100'000;
+constexpr const char* RunningProgram = "/proc/self/exe";
+
+namespace fs = std::filesystem;
+
+/// From the system itself: the toolkit would make text of a name, and lose what is none.
+fs::path ProgramFile() {
+    std::error_code error;
+    const fs::path file = fs::read_symlink(RunningProgram, error);
+    return error ? fs::path(QCoreApplication::applicationFilePath().toStdString()) : file;
+}
 
 /// The filter as Qt writes it: "label (pattern pattern)". Small letters are added to each pattern,
 /// for dialogs that tell them apart.
@@ -35,10 +53,9 @@ QString QtFilter(const std::string& filter) {
 
 DesktopPlatform::DesktopPlatform(const Options& given)
     : options(given),
-      directory(given.Directory
-                    ? *given.Directory
-                    : std::filesystem::path(QCoreApplication::applicationDirPath().toStdString())) {
-}
+      program(ProgramFile()),
+      directory(given.Directory.value_or(program.parent_path())),
+      unsaved(given.Unsaved) {}
 
 void DesktopPlatform::Quit() {
     quitting = true;
@@ -62,7 +79,7 @@ int DesktopPlatform::MsgBox(const std::string& text, int style) {
     QMessageBox box(DialogParent);
     box.setWindowTitle(Title);
     box.setTextFormat(Qt::PlainText);
-    box.setText(QString::fromStdString(text));
+    SetText(box, text);
     const bool asks = MsgBoxStyle::Asks(style);
     box.setIcon(style == MsgBoxStyle::Stop          ? QMessageBox::Critical
                 : style == MsgBoxStyle::Question    ? QMessageBox::Question
@@ -99,13 +116,27 @@ std::string DesktopPlatform::ShowOpen(const OpenDialog& dialog) {
 void DesktopPlatform::Shell(const std::string& commandLine) {
     // The program always starts itself; what stands behind its name is the game's argument.
     const std::string name = AppPath() + "\\tumbledeep";
-    std::vector<std::string> words = options.ForSuccessor();
+    std::vector<std::string> words = WordsForSuccessor();
     if (commandLine.size() > name.size() + 1) {
         words.push_back(commandLine.substr(name.size() + 1));
     }
-    if (!successor.Start(QCoreApplication::applicationFilePath().toStdString(), words)) {
-        MsgBox("The program can't be started again.", MsgBoxStyle::Stop);
+    // Where it was at the start there is a new one after an update, and none after a move.
+    if (successor.Start(program, words)) return;
+    if (!options.Directory) words.insert(words.begin(), {"--dir", directory.string()});
+    if (successor.Start(RunningProgram, words)) return;
+    MsgBox("The program can't be started again.", MsgBoxStyle::Stop);
+}
+
+std::vector<std::string> DesktopPlatform::WordsForSuccessor() const {
+    std::vector<std::string> words = options.ForSuccessor();
+    if (unsaved && unsaved->size() < LongestWord) {
+        words.insert(words.end(), {"--unsaved-settings", *unsaved});
     }
+    return words;
+}
+
+std::string DesktopPlatform::Notice() const {
+    return unsaved ? "Tumbledeep.ini can't be written; settings last until you quit" : "";
 }
 
 std::string DesktopPlatform::AppPath() const { return ProgramPath(directory); }
@@ -124,12 +155,17 @@ std::string DesktopPlatform::OpenForInput(const std::string& path) {
 
 std::string DesktopPlatform::GetPrivateProfileString(std::string_view section, std::string_view key,
                                                      const std::string& path) {
-    return ReadProfile(section, key, path);
+    return unsaved ? ProfileValue(*unsaved, section, key) : ReadProfile(section, key, path);
 }
 
 void DesktopPlatform::WritePrivateProfileString(std::string_view section, std::string_view key,
                                                 std::string_view value, const std::string& path) {
-    WriteProfile(section, key, value, path);
+    if (!unsaved && WriteProfile(section, key, value, path)) return;
+    if (!unsaved) {
+        unsaved = ReadSettings(path);
+        std::cerr << "tumbledeep: " << directory.string() << ": " << Notice() << '\n';
+    }
+    unsaved = ProfileWith(*unsaved, section, key, value);
 }
 
 } // namespace tumbledeep

@@ -20,6 +20,9 @@ class DesktopPlatform final : public Platform {
 
     /// Where maps, lists and settings lie.
     const std::filesystem::path& Directory() const { return directory; }
+    /// What the player is to know at the moment, such as that settings can't be written; "" for
+    /// nothing.
+    std::string Notice() const;
 
     /// The window that dialogs belong to, and what is done just before and after one is shown. Set
     /// before the game starts.
@@ -57,10 +60,16 @@ class DesktopPlatform final : public Platform {
   private:
     /// Runs a dialog with the clock held round it.
     template <class Dialog> int Show(Dialog& dialog);
+    /// The words for a successor that is to show the game as this process does.
+    std::vector<std::string> WordsForSuccessor() const;
 
     Options options;
+    std::filesystem::path program; ///< as it was called at the start, whatever its name is by now
     std::filesystem::path directory;
     Successor successor;
+    /// The text of the settings since a write failed. It stands in for the file until the player
+    /// quits, so that a folder that can't be written is played like any other.
+    std::optional<std::string> unsaved;
     bool quitting = false;
 };
 

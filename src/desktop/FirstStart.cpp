@@ -3,20 +3,21 @@
 #include "desktop/FirstStart.h"
 
 #include "base/Failure.h"
-#include "formats/MapList.h"
+#include "formats/FieldInput.h"
 #include "host/HostFiles.h"
+#include "host/HostPaths.h"
+#include "windows/Settings.h"
 
 namespace tumbledeep {
 
-void PrepareFirstStart(const std::filesystem::path& directory) {
-    const std::filesystem::path ini = directory / "Tumbledeep.ini";
+void PrepareFirstStart(Platform& platform, const std::filesystem::path& directory) {
     std::error_code error;
-    if (std::filesystem::exists(FindFile(ini), error)) return;
+    if (std::filesystem::exists(FindFile(directory / "Tumbledeep.ini"), error)) return;
     try {
-        const auto list = ReadMapList(ReadFile(FindFile(directory / "Default.TBL")));
-        if (list.empty()) return;
-        WriteProfile("Level", "LOAD", list.front().Text + ".TBM", ProgramPath(ini));
-        WriteProfile("Level", "MAPLIST", "Default", ProgramPath(ini));
+        FieldInput list(ReadFile(FindFile(directory / "Default.TBL")));
+        if (list.AtEnd()) return;
+        IniWrite(platform, "Level", "Load", list.Next().Text + ".TBM");
+        IniWrite(platform, "Level", "MapList", "Default");
     } catch (const Failure&) {
         // No list lies there: the game asks for a map.
     }

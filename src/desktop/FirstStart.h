@@ -6,8 +6,10 @@
 
 namespace tumbledeep {
 
-/// With no settings file yet and a map list Default.TBL in the directory, writes the settings that
-/// play the list from its first map. Does nothing otherwise.
-void PrepareFirstStart(const std::filesystem::path& directory);
+class Platform;
+
+/// With no settings file yet and a map list Default.TBL in the platform's directory, writes the
+/// settings that play the list from its first map. Does nothing otherwise.
+void PrepareFirstStart(Platform& platform, const std::filesystem::path& directory);
 
 } // namespace tumbledeep

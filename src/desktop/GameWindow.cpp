@@ -32,6 +32,8 @@ constexpr int FocusPatience = 500;
 /// In milliseconds: a press so soon after the return from another program is what has brought the
 /// player back. A hand that comes back by other means needs longer for its first press.
 constexpr int SamePress = 150;
+/// In bytes: a little more than a file's name can have.
+constexpr std::size_t LongestCaption = 300;
 /// The exit status for a script that does not fit the dialog it meets.
 constexpr int WrongScript = 2;
 
@@ -112,7 +114,8 @@ void GameWindow::TakeOuterSize() {
 void GameWindow::Sync() {
     if (game.Form.Caption != shownCaption) {
         shownCaption = game.Form.Caption;
-        setWindowTitle(QString::fromStdString(shownCaption));
+        // The window system breaks off with who sends it a title of megabytes.
+        setWindowTitle(QString::fromStdString(shownCaption.substr(0, LongestCaption)));
     }
     if (game.Info.Panel != shownStatus) {
         shownStatus = game.Info.Panel;
@@ -125,7 +128,7 @@ void GameWindow::Sync() {
         actions[i]->setCheckable(true);
         actions[i]->setChecked(checked);
     }
-    if (const std::string told = hands.Note(); told != shownNote) {
+    if (const std::string told = hands.Note() + platform.Notice(); told != shownNote) {
         shownNote = told;
         note->setText(QString::fromStdString(shownNote));
     }

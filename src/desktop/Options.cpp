@@ -4,7 +4,7 @@
 
 #include "base/Number.h"
 #include "formats/ProgramPath.h"
-#include "host/HostFiles.h"
+#include "host/HostPaths.h"
 #include "pictures/DevicePixels.h"
 
 #include <algorithm>
@@ -65,6 +65,8 @@ Options ReadOptions(std::span<char* const> words) {
         } else if (word == "--speed") {
             options.Speed = WholeFrom(word, value(), 1, 4);
             if (*options.Speed == 3) throw std::runtime_error("--speed is 1, 2 or 4");
+        } else if (word == "--unsaved-settings") {
+            options.Unsaved = std::string(value());
         } else if (word == "--shown-pipe") {
             options.ShownPipe = WholeFrom(word, value(), 0, 1 << 20);
         } else if (word.starts_with("--")) {

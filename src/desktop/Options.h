@@ -19,8 +19,9 @@ struct Options {
     std::optional<std::filesystem::path> Record;    ///< the script that is written
     std::optional<std::filesystem::path> Replay;    ///< the script that is played
     std::optional<int> Speed;                       ///< of the replay, 1, 2 or 4; none for 1
-    std::optional<int> ShownPipe; ///< file descriptor on which a predecessor waits to be told
-    std::string Argument;         ///< the game's command line text, as the player wrote it
+    std::optional<std::string> Unsaved; ///< settings of a predecessor that could not write them
+    std::optional<int> ShownPipe;       ///< file descriptor on which a predecessor waits to be told
+    std::string Argument;               ///< the game's command line text, as the player wrote it
 
     /// The words that make a successor show the game in the same way.
     std::vector<std::string> ForSuccessor() const;

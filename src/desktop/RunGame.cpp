@@ -119,7 +119,9 @@ int Run(int argc, char** argv) {
     DesktopPlatform platform(options);
     QuitOnSignals([&platform] { platform.Quit(); });
     if (options.Replay) return PlayReplay(platform, options);
-    if (options.Argument.empty()) PrepareFirstStart(platform.Directory());
+    if (options.Argument.empty() && !options.Unsaved) {
+        PrepareFirstStart(platform, platform.Directory());
+    }
     if (options.Record) return PlayRecorded(platform, options);
     Hands player;
     const auto game = std::make_unique<frmMain>(platform);
@@ -130,6 +132,7 @@ int Run(int argc, char** argv) {
 } // namespace
 
 int RunGame(int argc, char** argv) {
+    EndOnSignals();
     try {
         return Run(argc, argv);
     } catch (const std::runtime_error& fault) {

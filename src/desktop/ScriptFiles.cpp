@@ -3,6 +3,7 @@
 
 #include "base/Failure.h"
 #include "host/HostFiles.h"
+#include "host/HostPaths.h"
 #include "windows/frmMain.h"
 
 #include <array>
@@ -33,7 +34,7 @@ ReplayFile ReadReplay(const fs::path& script, const std::string& map, const fs::
     ReplayFile replay;
     std::string text;
     try {
-        text = ReadFile(script);
+        text = ReadFile(script, Sources::Any);
     } catch (const Failure&) {
         throw std::runtime_error(script.string() + ": the script can't be read");
     }

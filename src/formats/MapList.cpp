@@ -2,20 +2,19 @@
 // records by FieldInput, as maps are.
 #include "formats/MapList.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace tumbledeep {
 
 std::vector<Record> ReadMapList(std::string bytes) { return ReadRecords(std::move(bytes)); }
 
-ListSearch FindNext(const std::vector<Record>& list, std::string_view name) {
-    if (list.empty()) return {true, std::nullopt};
-    const auto found = std::find_if(list.begin(), list.end(),
-                                    [name](const Record& record) { return record.Text == name; });
-    if (found == list.end()) return {false, std::nullopt};
-    const auto next = found + 1;
-    return {true, next == list.end() ? std::nullopt : std::optional(next->Text)};
+ListSearch FindNext(FieldInput list, std::string_view name) {
+    if (list.AtEnd()) return {true, std::nullopt};
+    while (!list.AtEnd()) {
+        if (list.Next().Text != name) continue;
+        return {true, list.AtEnd() ? std::nullopt : std::optional(list.Next().Text)};
+    }
+    return {false, std::nullopt};
 }
 
 } // namespace tumbledeep

@@ -18,8 +18,9 @@ struct ListSearch {
     bool Found = false;              ///< true for an empty list too: it has no more levels
     std::optional<std::string> Next; ///< the name of the next map; none at the list's end
 };
-/// Looks for the first record of exactly that name, letter case and all, and what stands behind it.
-/// A list that repeats a name thus always goes on behind the first one.
-ListSearch FindNext(const std::vector<Record>& list, std::string_view name);
+/// Looks in a list for the first record of exactly that name, letter case and all, and what stands
+/// behind it. A list that repeats a name thus always goes on behind the first one. Nothing is kept
+/// of what is read: a list may have millions of records.
+ListSearch FindNext(FieldInput list, std::string_view name);
 
 } // namespace tumbledeep

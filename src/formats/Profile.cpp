@@ -13,6 +13,17 @@ namespace {
 constexpr std::string_view Blanks = " \t";
 constexpr std::string_view LineEnds = "\r\n";
 
+/// One line of a settings text.
+struct ProfileLine {
+    enum class Is { Section, Value, Other }; ///< Other is kept and never found: empty, or a note
+    Is What = Is::Other;
+    std::string_view Name;  ///< of the section or the key, without the blanks round it
+    std::string_view Value; ///< what stands behind "=", as it is
+    std::size_t Start = 0;  ///< where the line begins in the text
+    std::size_t End = 0;    ///< where its line end begins
+    std::size_t Next = 0;   ///< where the next line begins
+};
+
 /// Says what a line is, by its text without its end.
 void Tell(ProfileLine& line, std::string_view text) {
     const std::string_view trimmed = Trimmed(text, Blanks);
@@ -29,6 +40,17 @@ void Tell(ProfileLine& line, std::string_view text) {
     line.Value = text.substr(equals + 1);
 }
 
+/// The line that begins at a place of the text.
+ProfileLine ReadLine(std::string_view text, std::size_t start) {
+    ProfileLine line;
+    line.Start = start;
+    line.End = std::min(text.find_first_of(LineEnds, start), text.size());
+    const std::size_t end = text.substr(line.End, 2) == "\r\n" ? 2 : 1;
+    line.Next = std::min(line.End + end, text.size());
+    Tell(line, text.substr(line.Start, line.End - line.Start));
+    return line;
+}
+
 /// Where a key's line stands, or where one would be added.
 struct Place {
     std::optional<ProfileLine> Found;
@@ -39,7 +61,10 @@ struct Place {
 Place Find(std::string_view text, std::string_view section, std::string_view key) {
     Place place;
     place.AddAt = text.size();
-    for (const ProfileLine& line : ReadProfileLines(text)) {
+    ProfileLine line;
+    line.Next = text.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0;
+    while (line.Next < text.size()) {
+        line = ReadLine(text, line.Next);
         if (!place.InSection) {
             place.InSection =
                 line.What == ProfileLine::Is::Section && SameButCase(line.Name, section);
@@ -65,22 +90,6 @@ std::string_view LineEndOf(std::string_view text) {
 
 } // namespace
 
-std::vector<ProfileLine> ReadProfileLines(std::string_view text) {
-    std::vector<ProfileLine> lines;
-    std::size_t at = text.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0;
-    while (at < text.size()) {
-        ProfileLine line;
-        line.Start = at;
-        line.End = std::min(text.find_first_of(LineEnds, at), text.size());
-        const std::size_t end = text.substr(line.End, 2) == "\r\n" ? 2 : 1;
-        line.Next = std::min(line.End + end, text.size());
-        Tell(line, text.substr(line.Start, line.End - line.Start));
-        lines.push_back(line);
-        at = line.Next;
-    }
-    return lines;
-}
-
 std::string ProfileValue(std::string_view text, std::string_view section, std::string_view key) {
     const Place place = Find(text, section, key);
     return place.Found ? std::string(place.Found->Value) : "";
@@ -90,7 +99,8 @@ std::string ProfileWith(std::string_view text, std::string_view section, std::st
                         std::string_view value) {
     const Place place = Find(text, section, key);
     std::string entry(key);
-    entry.append("=").append(value.substr(0, value.find_first_of(LineEnds)));
+    value = value.substr(0, value.find_first_of(LineEnds)).substr(0, LongestStoredValue);
+    entry.append("=").append(value);
     if (place.Found) {
         return std::string(text.substr(0, place.Found->Start))
             .append(entry)

@@ -1,6 +1,6 @@
 // Names of files as the program writes them, taken apart as text: "\" between folders, an absolute
 // one with a drive letter in front, an extension of four characters. The host is not asked here;
-// its own paths are host/HostFiles.h's.
+// its own paths are host/HostPaths.h's.
 #pragma once
 
 #include <string>

@@ -5,6 +5,8 @@
 #include "base/Failure.h"
 #include "formats/ProgramPath.h"
 #include "host/HostFiles.h"
+#include "host/HostPaths.h"
+#include "host/SettingsFile.h"
 
 namespace tumbledeep {
 

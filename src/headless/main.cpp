@@ -4,6 +4,7 @@
 #include "base/Number.h"
 #include "headless/Play.h"
 #include "host/HostFiles.h"
+#include "host/HostPaths.h"
 #include "windows/frmMain.h"
 
 #include <algorithm>
@@ -104,7 +105,7 @@ Call ReadCall(std::span<char* const> words) {
 std::string ReadAll(const std::string& file) {
     if (file == "-") return {std::istreambuf_iterator<char>(std::cin), {}};
     try {
-        return ReadFile(file);
+        return ReadFile(file, Sources::Any);
     } catch (const Failure& failure) {
         throw CallFault(file + (failure.Number == Failure::FileNotFound
                                     ? ": there is no such script"

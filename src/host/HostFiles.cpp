@@ -1,123 +1,197 @@
-// How paths are turned, and how files are found, read and replaced whole. The standard library does
-// all of it, so that both front ends can share it.
+// The road of bytes between files and texts. Every descriptor is closed in the routine that opens
+// it, but the lock's, which lives as long as its object.
 #include "host/HostFiles.h"
 
 #include "base/Failure.h"
-#include "base/Text.h"
-#include "formats/Profile.h"
-#include "formats/ProgramPath.h"
 
-#include <algorithm>
-#include <fstream>
-#include <iterator>
-#include <system_error>
+#include <cerrno>
+#include <chrono>
+#include <fcntl.h>
+#include <optional>
+#include <random>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
 
 namespace tumbledeep {
 
 namespace fs = std::filesystem;
 
-fs::path HostPath(std::string_view programPath) {
-    // "z:" is the same drive as "Z:".
-    const bool fromRoot = SameButCase(programPath.substr(0, HostDrive.size()), HostDrive);
-    if (HasDrive(programPath) && !fromRoot) return {};
-    std::string path(fromRoot ? programPath.substr(HostDrive.size()) : programPath);
-    std::replace(path.begin(), path.end(), '\\', '/');
-    const fs::path host(path);
-    return (fromRoot ? fs::path("/") / host.relative_path() : host).lexically_normal();
-}
+namespace {
 
-std::string ProgramPath(const fs::path& hostPath) {
-    std::string path(HostDrive);
-    path += fs::absolute(hostPath).lexically_normal().generic_string();
-    while (path.ends_with('/')) path.pop_back();
-    std::replace(path.begin(), path.end(), '/', '\\');
-    return path;
-}
+constexpr std::chrono::seconds LongestWait{2};
+constexpr std::chrono::microseconds BetweenTries{200};
+constexpr std::string_view NewExtension = ".new";
+constexpr std::size_t TagLength = 8;
+/// So that tag and extension fit into the 255 bytes of a name.
+constexpr std::size_t LongestStem = 200;
 
-fs::path FindFile(const fs::path& path) {
-    std::error_code error;
-    if (fs::exists(path, error)) return path;
-    const std::string wanted = path.filename().string();
-    fs::path found;
-    const fs::path folder = path.has_parent_path() ? path.parent_path() : fs::path(".");
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        if (!SameButCase(entry->path().filename().string(), wanted)) continue;
-        if (!found.empty()) return path;
-        found = entry->path();
+/// A file descriptor, closed with the object.
+class Descriptor {
+  public:
+    explicit Descriptor(int open) : number(open) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() { Close(); }
+
+    int operator*() const { return number; }
+    bool IsOpen() const { return number >= 0; }
+    /// False when the system tells only now that what was written is lost.
+    bool Close() {
+        const int open = number;
+        number = -1;
+        return open < 0 || close(open) == 0;
     }
-    return found.empty() ? path : found;
+
+  private:
+    int number;
+};
+
+/// Whether the last failure says that there is no such file.
+bool IsMissing() {
+    return errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG || errno == ELOOP;
 }
 
-std::string ReadFile(const fs::path& path) {
-    std::error_code error;
-    const auto status = fs::status(path, error);
-    if (!fs::exists(status) && error != std::errc::permission_denied) {
-        throw Failure{Failure::FileNotFound};
+/// The system's call again, for as long as a signal interrupts it.
+template <class Call> auto Retried(Call call) {
+    auto result = call();
+    while (result < 0 && errno == EINTR) result = call();
+    return result;
+}
+
+[[noreturn]] void ThrowUnread() {
+    throw Failure{IsMissing() ? Failure::FileNotFound : Failure::FileAccess};
+}
+
+/// All bytes up to the end; one more than a file may have if there are as many.
+std::string BytesOf(int file, std::size_t expected) {
+    std::string bytes(std::min(expected, LargestFile) + 1, '\0');
+    std::size_t length = 0;
+    while (length <= LargestFile) {
+        if (length == bytes.size()) bytes.resize(std::min(2 * length, LargestFile + 1));
+        const auto got =
+            Retried([&] { return read(file, bytes.data() + length, bytes.size() - length); });
+        if (got < 0) throw Failure{Failure::FileAccess};
+        if (got == 0) break;
+        length += static_cast<std::size_t>(got);
     }
-    if (fs::is_directory(status)) throw Failure{Failure::FileAccess};
-    std::ifstream file(path, std::ios::binary);
-    std::string bytes{std::istreambuf_iterator<char>(file), {}};
-    if (!file) throw Failure{Failure::FileAccess};
+    bytes.resize(length);
     return bytes;
 }
 
-namespace {
+bool WriteAll(int file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const auto written = Retried([&] { return write(file, bytes.data(), bytes.size()); });
+        if (written < 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
 
-/// The path of a file that does not exist yet, in the same folder as another.
-fs::path FreeNameBeside(const fs::path& path) {
-    std::error_code error;
-    fs::path name = path;
-    name += ".new";
-    while (fs::exists(fs::symlink_status(name, error))) name += "-";
-    return name;
+/// Some file systems can't sync; that is no reason to write nothing.
+bool Sync(int file) {
+    return Retried([&] { return fsync(file); }) == 0 || errno == EINVAL || errno == EROFS;
+}
+
+/// What the names of the new files beside a path begin with.
+std::string NewStem(const fs::path& path) {
+    return path.filename().string().substr(0, LongestStem) + '.';
+}
+
+std::string RandomTag() {
+    static constexpr std::string_view Digits = "0123456789abcdef";
+    std::random_device random;
+    std::string tag;
+    for (std::size_t i = 0; i < TagLength; ++i) tag += Digits[random() % Digits.size()];
+    return tag;
+}
+
+/// Makes a file of a new name in the folder of a path. Returns its descriptor, -1 on failure.
+int MakeBeside(const fs::path& path, mode_t mode, fs::path& name) {
+    int file = -1;
+    do {
+        name = path.parent_path() / (NewStem(path) + RandomTag().append(NewExtension));
+        file = Retried(
+            [&] { return open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode); });
+    } while (file < 0 && errno == EEXIST);
+    return file;
+}
+
+/// The rights of a file that is to be replaced; none if there is no regular file.
+std::optional<mode_t> ModeOf(const fs::path& path) {
+    struct stat status = {};
+    if (lstat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+    return status.st_mode & 07777U;
 }
 
 } // namespace
 
+std::string ReadFile(const fs::path& path, Sources sources) {
+    if (path.native().find('\0') != std::string::npos) throw Failure{Failure::FileNotFound};
+    const bool regularOnly = sources == Sources::RegularFiles;
+    struct stat status = {};
+    // Looked at before it is opened, as that alone may set a device going.
+    if (stat(path.c_str(), &status) != 0) ThrowUnread();
+    if (regularOnly && !S_ISREG(status.st_mode)) throw Failure{Failure::FileAccess};
+    // And once more behind that, as another may stand there by now.
+    const int flags = O_RDONLY | O_CLOEXEC | O_NOCTTY | (regularOnly ? O_NONBLOCK : 0);
+    const Descriptor file(Retried([&] { return open(path.c_str(), flags); }));
+    if (!file.IsOpen() || fstat(*file, &status) != 0) ThrowUnread();
+    if (regularOnly && !S_ISREG(status.st_mode)) throw Failure{Failure::FileAccess};
+    const auto size = static_cast<std::size_t>(status.st_size);
+    if (S_ISREG(status.st_mode) && size > LargestFile) throw Failure{Failure::FileAccess};
+    std::string bytes = BytesOf(*file, size);
+    if (bytes.size() > LargestFile) throw Failure{Failure::FileAccess};
+    return bytes;
+}
+
 bool ReplaceFile(const fs::path& path, std::string_view bytes) {
+    const auto oldMode = ModeOf(path);
+    fs::path name;
+    Descriptor file(MakeBeside(path, 0666, name));
+    if (!file.IsOpen()) return false;
+    const bool written = WriteAll(*file, bytes) && (!oldMode || fchmod(*file, *oldMode) == 0) &&
+                         Sync(*file) && file.Close();
+    if (!written || rename(name.c_str(), path.c_str()) != 0) {
+        unlink(name.c_str());
+        return false;
+    }
+    // The rename, too, is to outlast a loss of power.
+    const fs::path folder = path.has_parent_path() ? path.parent_path() : fs::path(".");
+    const Descriptor parent(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (parent.IsOpen()) Sync(*parent);
+    return true;
+}
+
+void RemoveLeftovers(const fs::path& path) {
+    const std::string stem = NewStem(path);
+    const std::size_t length = stem.size() + TagLength + NewExtension.size();
     std::error_code error;
-    fs::path target = fs::weakly_canonical(path, error);
-    if (error) target = path;
-    const fs::path fresh = FreeNameBeside(target);
-    {
-        std::ofstream file(fresh, std::ios::binary | std::ios::trunc);
-        file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        file.close();
-        if (!file) {
-            fs::remove(fresh, error);
-            return false;
+    for (fs::directory_iterator entry(path.parent_path(), error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string name = entry->path().filename().string();
+        if (name.size() != length || !name.starts_with(stem) || !name.ends_with(NewExtension)) {
+            continue;
         }
-    }
-    const auto old = fs::status(target, error);
-    if (fs::is_regular_file(old)) fs::permissions(fresh, old.permissions(), error);
-    fs::rename(fresh, target, error);
-    if (!error) return true;
-    fs::remove(fresh, error);
-    return false;
-}
-
-std::string ReadProfile(std::string_view section, std::string_view key,
-                        const std::string& programPath) {
-    try {
-        return ProfileValue(ReadFile(FindFile(HostPath(programPath))), section, key);
-    } catch (const Failure&) {
-        return "";
+        std::error_code ignored;
+        if (fs::is_regular_file(entry->symlink_status(ignored))) fs::remove(entry->path(), ignored);
     }
 }
 
-void WriteProfile(std::string_view section, std::string_view key, std::string_view value,
-                  const std::string& programPath) {
-    const fs::path path = FindFile(HostPath(programPath));
-    std::string text;
-    try {
-        text = ReadFile(path);
-    } catch (const Failure& failure) {
-        // A file that is there but can't be read must not be replaced by one that forgets it.
-        if (failure.Number != Failure::FileNotFound) return;
+FolderLock::FolderLock(const fs::path& folder)
+    : descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+    if (descriptor < 0) return;
+    const auto end = std::chrono::steady_clock::now() + LongestWait;
+    while (!(held = flock(descriptor, LOCK_EX | LOCK_NB) == 0)) {
+        const bool taken = errno == EWOULDBLOCK || errno == EINTR;
+        if (!taken || std::chrono::steady_clock::now() > end) return;
+        std::this_thread::sleep_for(BetweenTries);
     }
-    const std::string changed = ProfileWith(text, section, key, value);
-    if (changed != text) ReplaceFile(path, changed);
+}
+
+FolderLock::~FolderLock() {
+    if (descriptor >= 0) close(descriptor);
 }
 
 } // namespace tumbledeep

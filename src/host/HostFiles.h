@@ -1,6 +1,6 @@
-// The host's files under the program's paths: "\" between folders, the host's root as drive Z:.
-// Paths go in; host paths, bytes and settings come out. Failures are thrown as Failure, but the
-// settings fail in silence. Both front ends build on it; the game itself only asks a Platform.
+// Files of the host read and replaced whole, and the lock on a folder: the one place below the
+// desktop that speaks POSIX. Bytes go in and out; failures to read are thrown as Failure. Which
+// file a name stands for is HostPaths.h's.
 #pragma once
 
 #include <filesystem>
@@ -9,31 +9,41 @@
 
 namespace tumbledeep {
 
-/// The host's path for one of the program's. One without a drive stays relative. One on a drive
-/// other than Z: gives the empty path, under which no file is ever found.
-std::filesystem::path HostPath(std::string_view programPath);
+/// The most bytes that a file may have to be read. A map with every pool full has under 20 MiB.
+inline constexpr std::size_t LargestFile = std::size_t{64} << 20U;
 
-/// The program's path for one of the host's, made absolute, without a "\" at its end.
-std::string ProgramPath(const std::filesystem::path& hostPath);
+/// What may be read. Whoever opens a pipe waits for its other end, and a device may never end, so
+/// the game reads regular files alone; a tool also takes the pipe that its caller names.
+enum class Sources { RegularFiles, Any };
 
-/// The path under which a file really lies: the one given if it exists, or else the one file of its
-/// folder whose name differs only in the case of ASCII letters. With none or several of those, the
-/// path as given.
-std::filesystem::path FindFile(const std::filesystem::path& path);
+/// The bytes of a file. Throws Failure: 53 when there is no such file, 75 when it can't be read, is
+/// none of those sources, or has more than LargestFile bytes.
+std::string ReadFile(const std::filesystem::path& path, Sources sources = Sources::RegularFiles);
 
-/// The bytes of a file. Throws Failure: 53 when there is no such file, 75 when it can't be read.
-std::string ReadFile(const std::filesystem::path& path);
-
-/// Writes a new file beside the old one and renames it onto that, so that the file is whole at
-/// every moment. One behind a link is replaced where it really lies. On failure returns false, with
-/// the old file untouched.
+/// Writes a new file beside the old one, makes sure that it is on the disk, and renames it onto the
+/// old one, so that the file is whole at every moment. What stands under that very name is
+/// replaced, a link too. On failure returns false, with the old file untouched.
 bool ReplaceFile(const std::filesystem::path& path, std::string_view bytes);
 
-/// Reads and writes one value of a settings file, as formats/Profile.h tells. A file that can't be
-/// read gives "" and is not written to, one that is not there is made; failures go unnoticed.
-std::string ReadProfile(std::string_view section, std::string_view key,
-                        const std::string& programPath);
-void WriteProfile(std::string_view section, std::string_view key, std::string_view value,
-                  const std::string& programPath);
+/// Removes the new files that ReplaceFile has left beside a path when the process ended in the
+/// midst of it. To be called by who holds the folder's lock, so that none is in use.
+void RemoveLeftovers(const std::filesystem::path& path);
+
+/// A lock on a folder, held by one process at a time while the object lives. It leaves no file.
+class FolderLock {
+  public:
+    /// Waits for the lock, two seconds at most: a process that was stopped must not stop others.
+    explicit FolderLock(const std::filesystem::path& folder);
+    FolderLock(const FolderLock&) = delete;
+    FolderLock& operator=(const FolderLock&) = delete;
+    ~FolderLock();
+
+    /// False when the wait was in vain, or the file system knows no locks.
+    bool Held() const { return held; }
+
+  private:
+    int descriptor = -1;
+    bool held = false;
+};
 
 } // namespace tumbledeep

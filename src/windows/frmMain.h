@@ -57,7 +57,7 @@ class frmMain {
     std::string ListInUse() const;
     /// The records of a map list in a directory; tells the player and ends the process if the list
     /// can't be opened.
-    std::vector<Record> OpenMapList(const std::string& directory, const std::string& name) const;
+    FieldInput OpenMapList(const std::string& directory, const std::string& name) const;
     /// The first record of a map list; tells the player and ends the process if there is none.
     std::string FirstOfMapList(const std::string& directory, const std::string& name) const;
     /// Starts the program anew and ends this process. `argument` is put right behind the program's

@@ -40,6 +40,23 @@ TEST(Profile, WritesChangeOneLineAlone) {
     }
     EXPECT_EQ(ProfileWith("", "Level", "LOAD", "x\nMAPLIST=y"), "[Level]\nLOAD=x\n")
         << "a value forges no lines";
+    const std::string longest(LongestStoredValue, 'x');
+    EXPECT_EQ(ProfileValue(ProfileWith("", "Level", "LOAD", longest + "y"), "Level", "LOAD"),
+              longest);
+}
+
+TEST(Profile, WhatIsWrittenIsReadWhereverTheFileWasCut) {
+    for (const std::string end : {"\r\n", "\n", "\r"}) {
+        const std::string whole =
+            "[Level]" + end + "LOAD=a" + end + "[AutoMove]" + end + "MOVE=True" + end;
+        for (std::size_t length = 0; length <= whole.size(); ++length) {
+            const std::string cut = whole.substr(0, length);
+            const std::string written =
+                ProfileWith(ProfileWith(cut, "AutoMove", "MOVE", "b"), "Level", "LOAD", "c");
+            EXPECT_EQ(ProfileValue(written, "AutoMove", "MOVE"), "b") << cut;
+            EXPECT_EQ(ProfileValue(written, "Level", "LOAD"), "c") << cut;
+        }
+    }
 }
 
 } // namespace tumbledeep

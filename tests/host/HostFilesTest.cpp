@@ -1,11 +1,11 @@
-// The host's files: paths both ways, names in another case, and settings that are never half
-// written. The text of settings is in formats/ProfileTest.cpp.
+// The host's files: paths both ways, names in another case, what is read and what is refused.
 #include "host/HostFiles.h"
+#include "host/HostPaths.h"
 
 #include "base/Failure.h"
 #include "support/TempFolder.h"
 
-#include <unistd.h>
+#include <sys/stat.h>
 
 namespace tumbledeep {
 
@@ -19,6 +19,8 @@ TEST(HostFiles, PathsBothWays) {
     EXPECT_EQ(HostPath("/host/a.TBM"), "/host/a.TBM");
     EXPECT_THROW(ReadFile(FindFile(HostPath("C:\\games\\a.TBM"))), Failure);
     EXPECT_EQ(HostPath("C:\\tmp"), "") << "only Z: is the host's";
+    using namespace std::string_literals;
+    EXPECT_EQ(HostPath("Z:\\games\\a.TBM\0.TBM"s), "") << "a NUL would name another file";
     EXPECT_EQ(ProgramPath("/games/./x/../tumble"), "Z:\\games\\tumble");
     EXPECT_EQ(ProgramPath("."), ProgramPath(fs::current_path()));
 }
@@ -37,44 +39,37 @@ TEST(HostFiles, NamesInAnotherCaseAndReads) {
     EXPECT_EQ(FindFile(folder.Path / "gone" / "none"), folder.Path / "gone" / "none");
 }
 
-TEST(HostFiles, SettingsComeIntoBeingKeepTheirPlaceAndLeaveNothingBeside) {
-    const TempFolder folder;
-    fs::create_symlink("real", folder.Path / "TUMBLEDEEP.INI");
-    folder.Write("real", "");
-    const std::string ini = ProgramPath(folder.Path) + "\\Tumbledeep.ini";
-    EXPECT_EQ(ReadProfile("Level", "load", ini), "");
-    WriteProfile("Level", "LOAD", "level two.TBM", ini);
-    WriteProfile("AutoMove", "MOVE", "True", ini);
-    WriteProfile("Level", "LOAD", "level three.TBM", ini);
-    EXPECT_EQ(folder.Read("real"), "[Level]\nLOAD=level three.TBM\n[AutoMove]\nMOVE=True\n");
-    EXPECT_EQ(ReadProfile("level", "load", ini), "level three.TBM");
-    EXPECT_EQ(folder.Entries(), 2);
+/// The failure with which a file is refused, 0 if it is read.
+int Refusal(const fs::path& file) {
+    try {
+        ReadFile(file);
+        return 0;
+    } catch (const Failure& failure) {
+        return failure.Number;
+    }
 }
 
-TEST(HostFiles, WriteThatFailsChangesNothing) {
+TEST(HostFiles, OnlyRegularFilesOfBoundedSizeAreRead) {
     const TempFolder folder;
-    const std::string ini = ProgramPath(folder.Path) + "\\Tumbledeep.ini";
-    fs::create_directory(folder.Path / "Tumbledeep.ini");
-    WriteProfile("Level", "LOAD", "x", ini);
-    EXPECT_TRUE(fs::is_directory(folder.Path / "Tumbledeep.ini"));
-    EXPECT_FALSE(ReplaceFile(folder.Path / "Tumbledeep.ini", "x"));
-    EXPECT_FALSE(ReplaceFile(folder.Path / "gone" / "file", "x"));
-    EXPECT_EQ(folder.Entries(), 1);
-}
-
-TEST(HostFiles, SettingsThatCannotBeReadAreNotReplaced) {
-    const TempFolder folder;
-    folder.Write("Tumbledeep.ini", "[Level]\nLOAD=mine\n");
-    fs::permissions(folder.Path, fs::perms::all);
-    fs::permissions(folder.Path / "Tumbledeep.ini", fs::perms::none);
-    // Root reads everything, so the test gives that up for a while.
-    const uid_t user = geteuid();
-    constexpr uid_t nobody = 65534;
-    ASSERT_EQ(user == 0 ? seteuid(nobody) : 0, 0);
-    WriteProfile("Level", "LOAD", "x", ProgramPath(folder.Path) + "\\Tumbledeep.ini");
-    ASSERT_EQ(user == 0 ? seteuid(user) : 0, 0);
-    fs::permissions(folder.Path / "Tumbledeep.ini", fs::perms::owner_all);
-    EXPECT_EQ(folder.Read("Tumbledeep.ini"), "[Level]\nLOAD=mine\n");
+    mkfifo((folder.Path / "pipe").c_str(), 0600);
+    fs::create_symlink("/dev/zero", folder.Path / "endless");
+    fs::create_symlink("circle", folder.Path / "circle");
+    fs::create_symlink("nowhere", folder.Path / "dangling");
+    for (const auto& [name, size] :
+         {std::pair{"largest", LargestFile}, {"larger", LargestFile + 1}}) {
+        folder.Write(name, "");
+        fs::resize_file(folder.Path / name, size);
+    }
+    for (const auto& [name, refusal] : {std::pair{"pipe", Failure::FileAccess},
+                                        {"endless", Failure::FileAccess},
+                                        {"larger", Failure::FileAccess},
+                                        {"largest", 0},
+                                        {"circle", Failure::FileNotFound},
+                                        {"dangling", Failure::FileNotFound}}) {
+        EXPECT_EQ(Refusal(folder.Path / name), refusal) << name;
+    }
+    EXPECT_EQ(Refusal(folder.Path / std::string(300, 'x')), Failure::FileNotFound);
+    EXPECT_EQ(ReadFile(folder.Path / "largest").size(), LargestFile);
 }
 
 } // namespace tumbledeep

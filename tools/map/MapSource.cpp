@@ -4,7 +4,6 @@
 #include "base/Failure.h"
 #include "base/Text.h"
 #include "formats/TextPicture.h"
-#include "host/HostFiles.h"
 
 #include <algorithm>
 #include <iostream>
@@ -17,13 +16,13 @@ bool HasExtension(const std::filesystem::path& file, std::string_view extension)
     return SameButCase(file.extension().string(), extension);
 }
 
-std::string BytesOf(const std::filesystem::path& file) {
+std::string BytesOf(const std::filesystem::path& file, Sources sources) {
     std::error_code error;
     if (std::filesystem::is_directory(file, error)) {
         throw std::runtime_error(file.string() + ": this is a folder");
     }
     try {
-        return ReadFile(file);
+        return ReadFile(file, sources);
     } catch (const Failure& failure) {
         throw std::runtime_error(file.string() + (failure.Number == Failure::FileNotFound
                                                       ? ": there is no such file"
@@ -65,7 +64,12 @@ MapSource ReadMapSource(const std::string& name) {
 void WriteTo(const std::string& name, const std::string& bytes) {
     if (name.empty()) {
         std::cout << bytes;
-    } else if (!ReplaceFile(name, bytes)) {
+        return;
+    }
+    // What lies behind a link of the author's is meant.
+    std::error_code error;
+    const std::filesystem::path target = std::filesystem::weakly_canonical(name, error);
+    if (!ReplaceFile(error ? std::filesystem::path(name) : target, bytes)) {
         throw std::runtime_error(name + ": the file can't be written");
     }
 }

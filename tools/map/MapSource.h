@@ -3,6 +3,7 @@
 #pragma once
 
 #include "formats/FieldInput.h"
+#include "host/HostFiles.h"
 
 #include <filesystem>
 #include <string>
@@ -28,7 +29,7 @@ struct MapSource {
 bool HasExtension(const std::filesystem::path& file, std::string_view extension);
 
 /// The bytes of a file. Throws std::runtime_error with a text that names it.
-std::string BytesOf(const std::filesystem::path& file);
+std::string BytesOf(const std::filesystem::path& file, Sources sources = Sources::Any);
 
 /// Reads a map, or a text picture if the name does not end in ".TBM" in any case. Throws
 /// std::runtime_error with a text that names the file and, in a picture, the line at fault; for

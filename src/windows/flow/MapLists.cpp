@@ -1,7 +1,6 @@
 // Opening map lists, with what the player is told when one can't be used, and the way from one
 // process to the next by the settings. How a list is read and searched is formats/MapList.cpp's.
 #include "base/Failure.h"
-#include "formats/MapList.h"
 #include "formats/ProgramPath.h"
 #include "host/Platform.h"
 #include "windows/Settings.h"
@@ -14,10 +13,9 @@ std::string frmMain::ListInUse() const {
     return (list.empty() ? "Default" : list) + ".TBL";
 }
 
-std::vector<Record> frmMain::OpenMapList(const std::string& directory,
-                                         const std::string& name) const {
+FieldInput frmMain::OpenMapList(const std::string& directory, const std::string& name) const {
     try {
-        return ReadMapList(Services.OpenForInput(directory + "\\" + name));
+        return FieldInput(Services.OpenForInput(directory + "\\" + name));
     } catch (const Failure&) {
         Services.MsgBox("The map list " + getfilename(name) + " can't be opened.",
                         MsgBoxStyle::Stop);
@@ -26,12 +24,12 @@ std::vector<Record> frmMain::OpenMapList(const std::string& directory,
 }
 
 std::string frmMain::FirstOfMapList(const std::string& directory, const std::string& name) const {
-    const std::vector<Record> list = OpenMapList(directory, name);
-    if (list.empty()) {
+    FieldInput list = OpenMapList(directory, name);
+    if (list.AtEnd()) {
         Services.MsgBox("The map list " + getfilename(name) + " is empty.", MsgBoxStyle::Stop);
         Services.End();
     }
-    return list.front().Text;
+    return list.Next().Text;
 }
 
 void frmMain::MnuBeginagain_Click() {

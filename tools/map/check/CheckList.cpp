@@ -4,7 +4,7 @@
 #include "base/Text.h"
 #include "formats/MapList.h"
 #include "formats/NearMiss.h"
-#include "host/HostFiles.h"
+#include "host/HostPaths.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -125,7 +125,7 @@ Findings CheckListed(const fs::path& file) {
     std::error_code error;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
         if (!HasExtension(entry.path(), ".TBL") || !entry.is_regular_file(error)) continue;
-        for (const Record& record : ReadMapList(BytesOf(entry.path()))) {
+        for (const Record& record : ReadMapList(BytesOf(entry.path(), Sources::RegularFiles))) {
             if (record.Text == name) return {};
             if (SameButCase(record.Text, name)) inOtherCase = entry.path().filename().string();
         }

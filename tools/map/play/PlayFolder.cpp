@@ -6,6 +6,8 @@
 #include "formats/MapList.h"
 #include "formats/ProgramPath.h"
 #include "host/HostFiles.h"
+#include "host/HostPaths.h"
+#include "host/SettingsFile.h"
 
 #include <algorithm>
 #include <set>
