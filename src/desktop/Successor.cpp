@@ -2,6 +2,8 @@
 // inherits and closes when it has painted.
 #include "desktop/Successor.h"
 
+#include "desktop/Signals.h"
+
 #include <array>
 #include <fcntl.h>
 #include <poll.h>
@@ -24,9 +26,15 @@ bool Successor::Start(const std::string& program, std::vector<std::string> words
     for (std::string& word : words) argv.push_back(word.data());
     argv.push_back(nullptr);
 
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    const sigset_t set = EndingSignals();
+    posix_spawnattr_setsigmask(&attributes, &set);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
     pid_t process = 0;
     const bool started =
-        posix_spawn(&process, program.c_str(), nullptr, nullptr, argv.data(), environ) == 0;
+        posix_spawn(&process, program.c_str(), nullptr, &attributes, argv.data(), environ) == 0;
+    posix_spawnattr_destroy(&attributes);
     close(ends[1]);
     if (shown >= 0) close(shown);
     shown = ends[0];

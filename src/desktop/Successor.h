@@ -16,7 +16,7 @@ class Successor {
     ~Successor();
 
     /// Starts a program, this one anew, with these words on its command line. False if the system
-    /// refuses.
+    /// refuses. It begins with the EndingSignals blocked.
     bool Start(const std::string& program, std::vector<std::string> words);
 
     /// Returns when the process started has shown itself, has ended, or the bound has passed; at
