@@ -3,7 +3,7 @@
 #include "desktop/DesktopPlatform.h"
 
 #include "base/Failure.h"
-#include "desktop/LongText.h"
+#include "desktop/LongTextBox.h"
 #include "formats/Profile.h"
 #include "formats/ProgramPath.h"
 #include "host/HostFiles.h"
@@ -76,19 +76,29 @@ template <class Dialog> int DesktopPlatform::Show(Dialog& dialog) {
 }
 
 int DesktopPlatform::MsgBox(const std::string& text, int style) {
-    QMessageBox box(DialogParent);
-    box.setWindowTitle(Title);
-    box.setTextFormat(Qt::PlainText);
-    SetText(box, text);
     const bool asks = MsgBoxStyle::Asks(style);
-    box.setIcon(style == MsgBoxStyle::Stop          ? QMessageBox::Critical
-                : style == MsgBoxStyle::Question    ? QMessageBox::Question
-                : style == MsgBoxStyle::Exclamation ? QMessageBox::Warning
-                                                    : QMessageBox::NoIcon);
-    box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No
-                                : QMessageBox::StandardButtons(QMessageBox::Ok));
-    box.setDefaultButton(asks ? QMessageBox::Yes : QMessageBox::Ok);
-    const int button = Show(box);
+    const auto icon = style == MsgBoxStyle::Stop          ? QMessageBox::Critical
+                      : style == MsgBoxStyle::Question    ? QMessageBox::Question
+                      : style == MsgBoxStyle::Exclamation ? QMessageBox::Warning
+                                                          : QMessageBox::NoIcon;
+    const auto buttons =
+        asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok);
+    const auto first = asks ? QMessageBox::Yes : QMessageBox::Ok;
+    const QString shown = ShownText(text);
+    const auto ask = [&](auto& box) {
+        box.setWindowTitle(Title);
+        return Show(box);
+    };
+    int button = 0;
+    if (IsLong(shown)) {
+        LongTextBox box(DialogParent, shown, icon, buttons, first);
+        button = ask(box);
+    } else {
+        QMessageBox box(icon, Title, shown, buttons, DialogParent);
+        box.setTextFormat(Qt::PlainText);
+        box.setDefaultButton(first);
+        button = ask(box);
+    }
     if (!asks) return MsgBoxAnswer::Ok;
     return button == QMessageBox::Yes ? MsgBoxAnswer::Yes : MsgBoxAnswer::No;
 }
