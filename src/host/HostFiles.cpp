@@ -128,7 +128,6 @@ std::optional<mode_t> ModeOf(const fs::path& path) {
 } // namespace
 
 std::string ReadFile(const fs::path& path, Sources sources) {
-    if (path.native().find('\0') != std::string::npos) throw Failure{Failure::FileNotFound};
     const bool regularOnly = sources == Sources::RegularFiles;
     struct stat status = {};
     // Looked at before it is opened, as that alone may set a device going.
@@ -139,9 +138,7 @@ std::string ReadFile(const fs::path& path, Sources sources) {
     const Descriptor file(Retried([&] { return open(path.c_str(), flags); }));
     if (!file.IsOpen() || fstat(*file, &status) != 0) ThrowUnread();
     if (regularOnly && !S_ISREG(status.st_mode)) throw Failure{Failure::FileAccess};
-    const auto size = static_cast<std::size_t>(status.st_size);
-    if (S_ISREG(status.st_mode) && size > LargestFile) throw Failure{Failure::FileAccess};
-    std::string bytes = BytesOf(*file, size);
+    std::string bytes = BytesOf(*file, static_cast<std::size_t>(status.st_size));
     if (bytes.size() > LargestFile) throw Failure{Failure::FileAccess};
     return bytes;
 }
