@@ -49,8 +49,8 @@ struct KindLines {
 
 class PictureReader {
   public:
-    PictureReader(const std::string& fileName, const std::string& bytes) : name(fileName) {
-        rows = LinesOf(bytes);
+    PictureReader(const std::string& fileName, const std::string& bytes)
+        : name(fileName), rows(LinesOf(bytes)) {
         heading = TakeHeading(name, rows);
         while (!rows.empty() && Trimmed(rows.back().Text).empty()) rows.pop_back();
         if (rows.size() > MostCells) Fail(rows[MostCells].Line, "a map has 300 rows at most");

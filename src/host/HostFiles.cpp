@@ -180,11 +180,12 @@ FolderLock::FolderLock(const fs::path& folder)
     : descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
     if (descriptor < 0) return;
     const auto end = std::chrono::steady_clock::now() + LongestWait;
-    while (!(held = flock(descriptor, LOCK_EX | LOCK_NB) == 0)) {
+    while (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
         const bool taken = errno == EWOULDBLOCK || errno == EINTR;
         if (!taken || std::chrono::steady_clock::now() > end) return;
         std::this_thread::sleep_for(BetweenTries);
     }
+    held = true;
 }
 
 FolderLock::~FolderLock() {

@@ -39,7 +39,7 @@ constexpr std::array<Due, 13> Clock{{
 
 /// By the value of the counter, the rows of the clock that are due, a bit for each: most ticks have
 /// none, and a map at rest should cost no more than asking that.
-constexpr auto DueRows = [] {
+constexpr auto DueRows = []() {
     std::array<unsigned, LastTick + 1> rows{};
     for (std::size_t tick = 0; tick < rows.size(); ++tick) {
         for (std::size_t row = 0; row < Clock.size(); ++row) {
