@@ -46,6 +46,10 @@ GameWindow::GameWindow(frmMain& main, Hands& player, DesktopPlatform& services,
       platform(services),
       periods(options.Speed.value_or(1)),
       shownPipe(options.ShownPipe.value_or(-1)),
+      closeRequests(winId(),
+                    [this] {
+                        if (openDialogs > 0) platform.Quit();
+                    }),
       canvas(main, options.Scale) {
     setCentralWidget(&canvas);
     BuildMenu();

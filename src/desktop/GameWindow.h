@@ -4,6 +4,7 @@
 #pragma once
 
 #include "desktop/BoardCanvas.h"
+#include "desktop/CloseRequests.h"
 #include "desktop/DesktopPlatform.h"
 #include "windows/hands/Hands.h"
 
@@ -67,6 +68,7 @@ class GameWindow final : public QMainWindow {
     bool hadFocus = false;
     bool isAway = false;
     QElapsedTimer sinceReturn; ///< not valid before the first return
+    CloseRequests closeRequests;
     /// Last, so that it goes first: it loses the focus as the window goes, and tells the window so.
     BoardCanvas canvas;
 };

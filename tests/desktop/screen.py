@@ -95,7 +95,9 @@ class Screen:
         self.env = dict(kept, DISPLAY=display, QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8",
                         HOME=self.folder.name, XDG_RUNTIME_DIR=self.folder.name)
         self.pixels = FrameBuffer(pathlib.Path(self.folder.name) / "Xvfb_screen0")
-        self.manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.env)
+        config = pathlib.Path(__file__).with_name("openbox.xml")
+        self.manager = subprocess.Popen(["openbox", "--sm-disable", "--config-file", config],
+                                        env=self.env, stderr=subprocess.DEVNULL)
         wait_until("the window manager", lambda: "window id" in self.run(
             "xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
         self.run("xsetroot", "-solid", "#%02x%02x%02x" % DESKTOP)

@@ -119,6 +119,20 @@ class Faults(unittest.TestCase):
         self.call(script="at 2 menu MnuMode1\nat 3 menu MnuMode2\n")
         self.assertEqual({"M.TBM", "Tumbledeep.ini", "script"}, set(os.listdir(self.dir)))
 
+    def test_an_hour_of_play_takes_no_more_memory_than_a_minute(self):
+        (self.dir / "M.TBM").write_text(
+            MAP + "gem1type 7200 7200\nmovingmineL 3600 3600 U\nfactory 5400 5400 1:bang\n"
+            "factory 7200 5400 1:roundrock\nmovingmineT 10800 5400\nmovingminePP 3600 7200 L\n")
+
+        def most(steps):
+            run = subprocess.Popen([TRACE, "--dir", self.dir, "--quiet", "--steps", str(steps)],
+                                   stdout=subprocess.DEVNULL)
+            _, status, usage = os.wait4(run.pid, 0)
+            run.returncode = os.waitstatus_to_exitcode(status)
+            self.assertEqual(0, run.returncode)
+            return usage.ru_maxrss
+        self.assertLess(most(360_000), 1.1 * most(6_000))
+
     def test_a_list_that_vanishes_between_two_maps(self):
         (self.dir / "Default.TBL").write_text("M\nN\n")
         (self.dir / "Default.TBL").unlink()
