@@ -2,6 +2,7 @@
 // behind its last NUL, what Hand.h plays; these characters stand there too:
 //     Y N T K       answers to the dialogs, in their order: yes, no, a mode, a list
 //     I             the map is painted as it stands at its start
+//     M             a short map's lines stand a hundred times each
 //     C             what is done is recorded, and the recording must play to the same end
 #include "Hand.h"
 #include "Target.h"
@@ -12,6 +13,8 @@
 #include "map/draw/BoardImage.h"
 #include "windows/hands/Recorder.h"
 #include "windows/hands/Replay.h"
+
+#include <algorithm>
 
 namespace tumbledeep {
 
@@ -93,6 +96,19 @@ void RecordAndReplay(std::string_view map, std::string_view acts) {
          "a replay has the board of the recording");
 }
 
+/// Of a long map nothing is repeated: that would take too long.
+std::string Crowded(std::string_view map) {
+    constexpr std::size_t longest = 1000;
+    std::string crowd;
+    if (map.size() > longest) return std::string(map);
+    for (std::size_t start = 0; start < map.size();) {
+        const std::size_t end = std::min(map.find('\n', start), map.size() - 1) + 1;
+        for (int i = 0; i < 100; ++i) crowd += map.substr(start, end - start);
+        start = end;
+    }
+    return crowd;
+}
+
 /// Small boards alone, as an image takes its time.
 void Paint(std::string_view map) {
     try {
@@ -110,8 +126,9 @@ void Paint(std::string_view map) {
 
 void Fuzz(std::string_view bytes) {
     const std::size_t end = bytes.rfind('\0');
-    const std::string_view map = bytes.substr(0, end);
     const std::string_view acts = end < bytes.size() ? bytes.substr(end + 1) : "";
+    std::string map(bytes.substr(0, end));
+    if (acts.find('M') < acts.size()) map = Crowded(map);
     if (acts.find('I') < acts.size()) Paint(map);
     if (acts.find('C') < acts.size()) return RecordAndReplay(map, acts);
     Play(map, acts);

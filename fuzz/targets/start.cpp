@@ -1,11 +1,13 @@
 // All roads into a map, over several processes in a row, in a made-up folder. The fields of the
-// input: the words of the desktop's command line, a line each; the settings; the answers to the
-// dialogs, a line each; what the player does, by Hand.h; the bytes of mine.TBL; those of mine.TBM.
+// input: the words of a command line, a line each, which both front ends read; the settings; the
+// answers to the dialogs, a line each; what the player does, by Hand.h; the bytes of mine.TBL;
+// those of mine.TBM.
 #include "Fields.h"
 #include "Hand.h"
 #include "Target.h"
 
 #include "desktop/Options.h"
+#include "headless/TraceCall.h"
 #include "host/MemoryPlatform.h"
 
 #include <stdexcept>
@@ -31,12 +33,24 @@ void Furnish(MemoryPlatform& system) {
     system.Files[InFolder("bad.TBM")] = "dirt x 0\n";
 }
 
+std::vector<char*> PointersTo(std::vector<std::string>& words) {
+    std::vector<char*> pointers;
+    for (std::string& word : words) pointers.push_back(word.data());
+    return pointers;
+}
+
+void ReadByTheTrace(std::vector<std::string> words) {
+    try {
+        const TraceCall call = ReadTraceCall(PointersTo(words));
+        Hold(call.Options.Steps >= 0, "the trace plays a number of steps");
+    } catch (const TraceCallFault&) {
+    }
+}
+
 /// The game's command line for the words, as the desktop makes it. Throws std::runtime_error, with
 /// what the player is told.
 std::string CommandOf(std::vector<std::string> words) {
-    std::vector<char*> pointers;
-    for (std::string& word : words) pointers.push_back(word.data());
-    const Options options = ReadOptions(pointers);
+    const Options options = ReadOptions(PointersTo(words));
     options.ForSuccessor();
     return CommandText(options.Argument, ".");
 }
@@ -68,8 +82,10 @@ bool PlayOne(MemoryPlatform& system, Hand& hand) {
 void Fuzz(std::string_view bytes) {
     MemoryPlatform system;
     Furnish(system);
+    const std::vector<std::string> words = Lines(TakeField(bytes));
+    ReadByTheTrace(words);
     try {
-        system.CommandLine = CommandOf(Lines(TakeField(bytes)));
+        system.CommandLine = CommandOf(words);
     } catch (const std::runtime_error&) {
         return;
     }
