@@ -70,7 +70,8 @@ std::string WriteRecords(const std::vector<Record>& records) {
         const std::string_view quote = TakesQuotes(record.Text) ? "\"" : "";
         bytes.append(quote).append(record.Text).append(quote) += '\n';
     }
-    return bytes;
+    // A mark that is text would be taken for the file's own; blanks in front do not count.
+    return bytes.starts_with(ByteOrderMark) ? ' ' + bytes : bytes;
 }
 
 } // namespace tumbledeep

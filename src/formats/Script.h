@@ -60,7 +60,7 @@ struct Script {
 
 /// The line of a script for an answer or an event, with its line end; ReadScript reads it back.
 /// Twips are rounded to whole ones. A typed text that a line can't hold becomes "x": it means
-/// nothing to the game either.
+/// nothing to the game either. In an answer "?" stands for each character that a line can't hold.
 std::string LineOf(const ScriptAnswer& answer);
 std::string LineOf(const ScriptEvent& event);
 

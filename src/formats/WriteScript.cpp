@@ -12,14 +12,15 @@ namespace {
 
 using Do = PlayerAct::Do;
 
+/// Whether a line can't hold the character: line ends, and others that nobody types.
+bool IsControl(char c) { return static_cast<unsigned char>(c) < ' '; }
+
 /// The words behind the verb.
 std::string WordsOf(const PlayerAct& act) {
     const auto whole = [](float twips) { return std::to_string(std::lround(twips)); };
     switch (act.What) {
     case Do::Type: {
-        const bool fits = !act.Text.empty() && std::ranges::none_of(act.Text, [](char c) {
-            return static_cast<unsigned char>(c) < ' ';
-        });
+        const bool fits = !act.Text.empty() && std::ranges::none_of(act.Text, IsControl);
         return fits ? act.Text : "x";
     }
     case Do::Press:
@@ -37,7 +38,11 @@ std::string LineOf(const ScriptAnswer& answer) {
     const auto& row = *std::ranges::find(AnswerWords, answer.What, &AnswerWord::What);
     std::string line = "answer ";
     line += row.Word;
-    if (row.TakesText) line.append(" ").append(answer.Text);
+    if (row.TakesText) {
+        std::string text = answer.Text;
+        std::ranges::replace_if(text, IsControl, '?');
+        line.append(" ").append(text);
+    }
     return line += '\n';
 }
 

@@ -27,4 +27,16 @@ TEST(Script, FaultsNameFileAndLine) {
     }
 }
 
+TEST(Script, AnAnswerStaysInItsLine) {
+    for (const std::string text : {"Z:\\a\nat 1 click", "\r", "2\r\r"}) {
+        for (const auto kind : {ScriptAnswer::To::File, ScriptAnswer::To::Text}) {
+            const std::string line = LineOf(ScriptAnswer{kind, text, 0});
+            const Script script = ReadScript("s", line, &IsMenuHandler);
+            ASSERT_EQ(script.Answers.size(), 1U) << line;
+            EXPECT_EQ(script.Answers.front().Text.size(), text.size()) << line;
+            EXPECT_TRUE(script.Events.empty()) << line;
+        }
+    }
+}
+
 } // namespace tumbledeep

@@ -56,6 +56,8 @@ TEST(TextPicture, NothingThatMattersIsLostThereAndBack) {
           "0\n",
           "you 0 0\nyou 0 360\ngem1type -0 0\ngem1type 360 -360\ndirt 108000 0\ndirt 1e30 0.5\n",
           "movingmineL 0 0\nmovingmineL 0 360 x\n\"factory 0 0 1,a\"\nfactory 0 360 \n",
+          " \xEF\xBB\xBF"
+          "dirt 0 0\n",
           "dirt 0 0\ndirt 0 360\ndirt 0 0\n", ""}) {
         EXPECT_EQ(ThereAndBack(odd), Sense(ReadRecords(odd)));
     }

@@ -1,33 +1,63 @@
 // tumbledeep-soak: plays random games for as long as one likes, for the sanitizers to watch. It
-// prints a line for each seed with the hash of all its states, which tells two builds apart. The
-// games are RandomGame.h's.
+// prints a line for each seed with the hash of all its states, which tells two builds apart. With
+// --quiet a state is hashed at a seed's end alone, which is much faster. The games are
+// RandomGame.h's.
 #include "soak/RandomGame.h"
 
 #include "base/Number.h"
 
+#include <array>
 #include <iostream>
+#include <optional>
 #include <span>
+#include <string_view>
 
-int main(int argc, char** argv) {
-    using namespace tumbledeep;
-    // The first seed, how many, and the periods of each.
-    std::array<std::int64_t, 3> numbers{1, 1000, 2000};
-    const std::span<char* const> words(argv + 1, static_cast<std::size_t>(argc - 1));
+namespace {
+
+using namespace tumbledeep;
+
+struct Call {
+    bool Quiet = false; ///< a state is hashed at a seed's end alone
+    /// The first seed, how many, and the periods of each.
+    std::array<std::int64_t, 3> Numbers{1, 1000, 2000};
+};
+
+std::optional<Call> ReadCall(std::span<char* const> words) {
+    Call call;
+    if (!words.empty() && std::string_view(words.front()) == "--quiet") {
+        call.Quiet = true;
+        words = words.subspan(1);
+    }
+    if (words.size() > call.Numbers.size()) return std::nullopt;
     for (std::size_t i = 0; i < words.size(); ++i) {
         const auto number = ReadInteger(words[i]);
-        if (i >= numbers.size() || !number || *number < 0) {
-            std::cerr << "usage: tumbledeep-soak [FIRST-SEED [SEEDS [PERIODS]]]\n";
-            return 2;
-        }
-        numbers.at(i) = *number;
+        if (!number || *number < 0) return std::nullopt;
+        call.Numbers.at(i) = *number;
     }
-    for (std::int64_t seed = numbers[0]; seed < numbers[0] + numbers[1]; ++seed) {
-        RandomGame game(static_cast<std::uint32_t>(seed));
-        Hash hash;
-        for (std::int64_t period = 0; period < numbers[2]; ++period) {
-            game.Period();
-            game.AddTo(hash);
-        }
-        std::cout << seed << ' ' << std::hex << hash.Value() << std::dec << std::endl;
+    return call;
+}
+
+std::uint64_t HashOf(std::int64_t seed, std::int64_t periods, bool quiet) {
+    RandomGame game(static_cast<std::uint32_t>(seed));
+    Hash hash;
+    for (std::int64_t period = 1; period <= periods; ++period) {
+        game.Period();
+        if (!quiet || period == periods) game.AddTo(hash);
+    }
+    return hash.Value();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const auto call = ReadCall({argv + 1, static_cast<std::size_t>(argc - 1)});
+    if (!call) {
+        std::cerr << "usage: tumbledeep-soak [--quiet] [FIRST-SEED [SEEDS [PERIODS]]]\n";
+        return 2;
+    }
+    const auto [first, seeds, periods] = call->Numbers;
+    for (std::int64_t seed = first; seed < first + seeds; ++seed) {
+        std::cout << seed << ' ' << std::hex << HashOf(seed, periods, call->Quiet) << std::dec
+                  << std::endl;
     }
 }

@@ -2,6 +2,7 @@
 // no step goes by, so a pause leaves its keys and no time.
 #include "windows/hands/Recorder.h"
 
+#include "base/Text.h"
 #include "formats/ProgramPath.h"
 
 #include <algorithm>
@@ -38,6 +39,7 @@ void Recorder::Start(frmMain& game) {
 
 void Recorder::WriteHead(const frmMain& game) {
     write("# recorded by tumbledeep; to see it: tumbledeep --replay FILE\n" + LinesOf(head));
+    if (!viewIsChosen) return;
     const frmDocument& board = game.ActiveChild;
     NoteAnswer({board.AutoMoveOn ? To::Yes : To::No, "", 0});
     if (!board.AutoMoveOn) return;
@@ -103,6 +105,8 @@ std::string Recorder::OpenForInput(const std::string& path) {
 
 std::string Recorder::GetPrivateProfileString(std::string_view section, std::string_view key,
                                               const std::string& path) {
+    // A start-up that a faulty map cuts short does not come to the view; nor does its replay.
+    if (SameButCase(section, "AutoMove")) viewIsChosen = true;
     return inner.GetPrivateProfileString(section, key, path);
 }
 

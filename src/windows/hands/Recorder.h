@@ -55,6 +55,7 @@ class Recorder final : public Hands, public Platform {
     std::function<void(const std::string&)> write;
     RecordingHead head;
     std::int64_t ticks = 0; ///< that have begun: a step is a tick, as paused time is not recorded
+    bool viewIsChosen = false; ///< the start-up has looked up the following view
     bool isStarted = false;
     bool hasEnded = false;
 };
