@@ -28,10 +28,18 @@ bool IsOurs(const Name& name, std::string_view section, std::string_view key) {
     return SameButCase(section, name.Section) && SameButCase(key, name.Key);
 }
 
+std::vector<Line> Lines(std::string_view text) {
+    std::vector<Line> lines;
+    for (std::size_t at = FirstProfileLine(text); at < text.size(); at = lines.back().Next) {
+        lines.push_back(ReadProfileLine(text, at));
+    }
+    return lines;
+}
+
 /// The lines with their ends, as they stand, an end set behind the last one if it has none.
 std::vector<std::string> WholeLines(const std::string& text) {
     std::vector<std::string> whole;
-    for (const Line& line : ReadProfileLines(text)) {
+    for (const Line& line : Lines(text)) {
         whole.emplace_back(text.substr(line.Start, line.Next - line.Start));
     }
     return whole;
@@ -63,7 +71,7 @@ void OthersStandAsTheyStood(const std::string& before, const std::string& after)
 void OthersReadAsTheyRead(const Name& name, const std::string& before, const std::string& after) {
     std::string_view section;
     int left = 5;
-    for (const Line& line : ReadProfileLines(before)) {
+    for (const Line& line : Lines(before)) {
         if (line.What == Line::Is::Section) section = line.Name;
         if (line.What != Line::Is::Value || IsOurs(name, section, line.Name)) continue;
         if (left-- == 0) return;

@@ -65,8 +65,9 @@ LongTextBox::LongTextBox(QWidget* parent, const QString& text, QMessageBox::Icon
     view->setReadOnly(true);
     view->setMinimumSize(ViewSize);
     grid->addWidget(view, 0, 1);
+    using Buttons = QDialogButtonBox::StandardButtons;
     auto* const row =
-        new QDialogButtonBox(QDialogButtonBox::StandardButtons::fromInt(buttons.toInt()));
+        new QDialogButtonBox(Buttons::fromInt(static_cast<Buttons::Int>(buttons.toInt())));
     grid->addWidget(row, 1, 0, 1, 2);
     for (QAbstractButton* const button : row->buttons()) {
         connect(button, &QAbstractButton::clicked, this,

@@ -13,17 +13,6 @@ namespace {
 constexpr std::string_view Blanks = " \t";
 constexpr std::string_view LineEnds = "\r\n";
 
-/// One line of a settings text.
-struct ProfileLine {
-    enum class Is { Section, Value, Other }; ///< Other is kept and never found: empty, or a note
-    Is What = Is::Other;
-    std::string_view Name;  ///< of the section or the key, without the blanks round it
-    std::string_view Value; ///< what stands behind "=", as it is
-    std::size_t Start = 0;  ///< where the line begins in the text
-    std::size_t End = 0;    ///< where its line end begins
-    std::size_t Next = 0;   ///< where the next line begins
-};
-
 /// Says what a line is, by its text without its end.
 void Tell(ProfileLine& line, std::string_view text) {
     const std::string_view trimmed = Trimmed(text, Blanks);
@@ -40,17 +29,6 @@ void Tell(ProfileLine& line, std::string_view text) {
     line.Value = text.substr(equals + 1);
 }
 
-/// The line that begins at a place of the text.
-ProfileLine ReadLine(std::string_view text, std::size_t start) {
-    ProfileLine line;
-    line.Start = start;
-    line.End = std::min(text.find_first_of(LineEnds, start), text.size());
-    const std::size_t end = text.substr(line.End, 2) == "\r\n" ? 2 : 1;
-    line.Next = std::min(line.End + end, text.size());
-    Tell(line, text.substr(line.Start, line.End - line.Start));
-    return line;
-}
-
 /// Where a key's line stands, or where one would be added.
 struct Place {
     std::optional<ProfileLine> Found;
@@ -62,9 +40,9 @@ Place Find(std::string_view text, std::string_view section, std::string_view key
     Place place;
     place.AddAt = text.size();
     ProfileLine line;
-    line.Next = text.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0;
+    line.Next = FirstProfileLine(text);
     while (line.Next < text.size()) {
-        line = ReadLine(text, line.Next);
+        line = ReadProfileLine(text, line.Next);
         if (!place.InSection) {
             place.InSection =
                 line.What == ProfileLine::Is::Section && SameButCase(line.Name, section);
@@ -89,6 +67,20 @@ std::string_view LineEndOf(std::string_view text) {
 }
 
 } // namespace
+
+std::size_t FirstProfileLine(std::string_view text) {
+    return text.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0;
+}
+
+ProfileLine ReadProfileLine(std::string_view text, std::size_t start) {
+    ProfileLine line;
+    line.Start = start;
+    line.End = std::min(text.find_first_of(LineEnds, start), text.size());
+    const std::size_t end = text.substr(line.End, 2) == "\r\n" ? 2 : 1;
+    line.Next = std::min(line.End + end, text.size());
+    Tell(line, text.substr(line.Start, line.End - line.Start));
+    return line;
+}
 
 std::string ProfileValue(std::string_view text, std::string_view section, std::string_view key) {
     const Place place = Find(text, section, key);

@@ -8,6 +8,22 @@
 
 namespace tumbledeep {
 
+/// One line of a settings text.
+struct ProfileLine {
+    enum class Is { Section, Value, Other }; ///< Other is kept and never found: empty, or a note
+    Is What = Is::Other;
+    std::string_view Name;  ///< of the section or the key, without the blanks round it
+    std::string_view Value; ///< what stands behind "=", as it is
+    std::size_t Start = 0;  ///< where the line begins in the text
+    std::size_t End = 0;    ///< where its line end begins
+    std::size_t Next = 0;   ///< where the next line begins
+};
+
+/// Where the first line begins: behind a byte order mark.
+std::size_t FirstProfileLine(std::string_view text);
+/// The line that begins at a place of the text.
+ProfileLine ReadProfileLine(std::string_view text, std::size_t start);
+
 /// What stands behind "=" on the key's line, as it is; "" without such a line. Names count without
 /// regard to case and the blanks and tabs round them, and of equal ones the first: the first such
 /// section, and its first such key. Lines end in CR LF, LF alone or CR alone; a byte order mark in
