@@ -3,6 +3,7 @@
 //     Y N T K       answers to the dialogs, in their order: yes, no, a mode, a list
 //     I             the map is painted as it stands at its start
 //     M             a short map's lines stand a hundred times each
+//     B             a board alone takes the small letters, and a copy of it plays on alike
 //     C             what is done is recorded, and the recording must play to the same end
 #include "Hand.h"
 #include "Target.h"
@@ -15,6 +16,7 @@
 #include "windows/hands/Replay.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace tumbledeep {
 
@@ -96,6 +98,28 @@ void RecordAndReplay(std::string_view map, std::string_view acts) {
          "a replay has the board of the recording");
 }
 
+/// Half of the letters on one board, the others on it and on a copy.
+void PlayCopies(const std::string& map, std::string_view acts) {
+    try {
+        Board board = LoadMap(map, 1);
+        std::optional<Board> copy;
+        for (std::size_t i = 0; i < acts.size(); ++i) {
+            if (i == acts.size() / 2) copy = board;
+            const std::string_view act = acts.substr(i, 1);
+            const std::string_view key = act >= "a" && act <= "z" ? act : "";
+            for (int period = 0; period < 10; ++period) {
+                const Outcome outcome = board.Period(key, {});
+                Hold(!copy || copy->Period(key, {}) == outcome, "a copy has the same outcome");
+                if (outcome != Outcome::Running) return;
+            }
+        }
+        Hold(!copy || (*copy == board && copy->HashValue() == board.HashValue()),
+             "a copy plays on as its original");
+    } catch (const Failure&) {
+        // The map can't be loaded.
+    }
+}
+
 /// Of a long map nothing is repeated: that would take too long.
 std::string Crowded(std::string_view map) {
     constexpr std::size_t longest = 1000;
@@ -130,6 +154,7 @@ void Fuzz(std::string_view bytes) {
     std::string map(bytes.substr(0, end));
     if (acts.find('M') < acts.size()) map = Crowded(map);
     if (acts.find('I') < acts.size()) Paint(map);
+    if (acts.find('B') < acts.size()) return PlayCopies(map, acts.substr(0, 50));
     if (acts.find('C') < acts.size()) return RecordAndReplay(map, acts);
     Play(map, acts);
 }

@@ -15,9 +15,14 @@ using Do = PlayerAct::Do;
 /// Whether a line can't hold the character: line ends, and others that nobody types.
 bool IsControl(char c) { return static_cast<unsigned char>(c) < ' '; }
 
+/// Twips as whole ones, held to what a number of a script can be.
+std::string Whole(float twips) {
+    constexpr float farthest = 0x1p62F;
+    return std::to_string(std::llround(std::clamp(twips, -farthest, farthest)));
+}
+
 /// The words behind the verb.
 std::string WordsOf(const PlayerAct& act) {
-    const auto whole = [](float twips) { return std::to_string(std::lround(twips)); };
     switch (act.What) {
     case Do::Type: {
         const bool fits = !act.Text.empty() && std::ranges::none_of(act.Text, IsControl);
@@ -25,9 +30,9 @@ std::string WordsOf(const PlayerAct& act) {
     }
     case Do::Press:
     case Do::Release: return std::string(KeyNames[Index(act.Key)]);
-    case Do::Drag: return whole(act.X) + ' ' + whole(act.Y);
+    case Do::Drag: return Whole(act.X) + ' ' + Whole(act.Y);
     case Do::Menu: return act.Text;
-    case Do::Resize: return whole(act.X) + 'x' + whole(act.Y);
+    case Do::Resize: return Whole(act.X) + 'x' + Whole(act.Y);
     default: return "";
     }
 }

@@ -27,6 +27,11 @@ TEST(Script, FaultsNameFileAndLine) {
     }
 }
 
+TEST(Script, ASizeBeyondAllNumbersIsWrittenAsOne) {
+    const std::string line = LineOf(ScriptEvent{1, {.What = PlayerAct::Do::Resize, .X = 1e30F}, 0});
+    EXPECT_GT(ReadScript("s", line, &IsMenuHandler).Events.front().Act.X, 1e18F) << line;
+}
+
 TEST(Script, AnAnswerStaysInItsLine) {
     for (const std::string text : {"Z:\\a\nat 1 click", "\r", "2\r\r"}) {
         for (const auto kind : {ScriptAnswer::To::File, ScriptAnswer::To::Text}) {

@@ -111,7 +111,7 @@ TEST(Check, MapsWithFaults) {
                  "2w 3 objects share one cell, the first in line 1, and the cell is empty"},
              Row{far + far, "2w the same dirt stands in line 1"},
              Row{"", "5e hole in column 2, row 1 (Top 0, Left 360)", "# ##/#@*#/####"},
-             Row{"", "1e outside the walls", "@*"},
+             Row{"", "1e outside the walls", "@*"}, Row{"dirt 9e6 0\n", "1e outside the board"},
              Row{"", "13w 2 objects, from this one on, stand outside", "####/#@*#/####/OO"},
              Row{"", "9e column 4, row 2|13e column 3, row 3", "#####/#@#*#/##*##/#####"},
              Row{"roundrock 360 1445\n", "1w between two cells; the nearest is column 5, row 2",

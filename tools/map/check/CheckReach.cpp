@@ -80,7 +80,8 @@ Futures::Futures(const CheckedMap& map) : walls(Walls(map)) {
 }
 
 void Futures::Add(Cell cell, May what) {
-    if (walls[cell] != 0 || (may[cell] & what) == what) return;
+    // Dirt can lie off the board, where nobody comes.
+    if (!cell.InGrid() || walls[cell] != 0 || (may[cell] & what) == what) return;
     may[cell] |= what;
     // Rules look so far: one row up and down, two cells to each side.
     for (int row = -1; row <= 1; ++row) {
