@@ -17,6 +17,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// A larger number behind a recording's name is part of that name.
+constexpr std::int64_t MostRecordings = 1'000'000;
+
 int WholeFrom(std::string_view option, std::string_view text, int least, int most) {
     const auto value = ReadInteger(text);
     if (!value || *value < least || *value > most) {
@@ -41,8 +44,9 @@ Options ReadOptions(std::span<char* const> words) {
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::string_view word = words[i];
         const auto value = [&]() -> std::string_view {
-            if (i + 1 == words.size())
+            if (i + 1 == words.size() || *words[i + 1] == '\0') {
                 throw std::runtime_error(std::string(word) + " needs a value");
+            }
             return words[++i];
         };
         if (word == "--help") {
@@ -89,7 +93,7 @@ fs::path NextRecording(const fs::path& file) {
     std::int64_t number = 1;
     if (dash != std::string::npos && dash > 0) {
         if (const auto written = ReadInteger(std::string_view(stem).substr(dash + 1));
-            written && *written > 1) {
+            written && *written > 1 && *written < MostRecordings) {
             number = *written;
             stem.resize(dash);
         }

@@ -30,14 +30,14 @@ void Tell(ProfileLine& line, std::string_view text) {
 }
 
 /// Where a key's line stands, or where one would be added.
-struct Place {
+struct KeyPlace {
     std::optional<ProfileLine> Found;
     bool InSection = false;
     std::size_t AddAt = 0;
 };
 
-Place Find(std::string_view text, std::string_view section, std::string_view key) {
-    Place place;
+KeyPlace Find(std::string_view text, std::string_view section, std::string_view key) {
+    KeyPlace place;
     place.AddAt = text.size();
     ProfileLine line;
     line.Next = FirstProfileLine(text);
@@ -83,13 +83,13 @@ ProfileLine ReadProfileLine(std::string_view text, std::size_t start) {
 }
 
 std::string ProfileValue(std::string_view text, std::string_view section, std::string_view key) {
-    const Place place = Find(text, section, key);
+    const KeyPlace place = Find(text, section, key);
     return place.Found ? std::string(place.Found->Value) : "";
 }
 
 std::string ProfileWith(std::string_view text, std::string_view section, std::string_view key,
                         std::string_view value) {
-    const Place place = Find(text, section, key);
+    const KeyPlace place = Find(text, section, key);
     std::string entry(key);
     value = value.substr(0, value.find_first_of(LineEnds)).substr(0, LongestStoredValue);
     entry.append("=").append(value);

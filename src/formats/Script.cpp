@@ -23,9 +23,9 @@ std::string_view TakeWord(std::string_view& rest) {
 using To = ScriptAnswer::To;
 
 /// Reads the lines of one script.
-class Reader {
+class ScriptReader {
   public:
-    Reader(Script& target, bool (*menuEntries)(std::string_view))
+    ScriptReader(Script& target, bool (*menuEntries)(std::string_view))
         : script(target), isEntry(menuEntries) {}
 
     void Line(std::string_view text) {
@@ -40,7 +40,7 @@ class Reader {
 
   private:
     /// By the number of what is done: how the words behind the verb are read.
-    static const std::array<void (Reader::*)(PlayerAct& act, std::string_view rest) const,
+    static const std::array<void (ScriptReader::*)(PlayerAct& act, std::string_view rest) const,
                             VerbWords.size()>
         Readers;
 
@@ -118,10 +118,11 @@ class Reader {
     int line = 0;
 };
 
-const std::array<void (Reader::*)(PlayerAct& act, std::string_view rest) const, VerbWords.size()>
-    Reader::Readers{&Reader::Typed,   &Reader::Key,   &Reader::Key,
-                    &Reader::Nothing, &Reader::Way,   &Reader::Nothing,
-                    &Reader::Nothing, &Reader::Entry, &Reader::Size};
+const std::array<void (ScriptReader::*)(PlayerAct& act, std::string_view rest) const,
+                 VerbWords.size()>
+    ScriptReader::Readers{&ScriptReader::Typed,   &ScriptReader::Key,   &ScriptReader::Key,
+                          &ScriptReader::Nothing, &ScriptReader::Way,   &ScriptReader::Nothing,
+                          &ScriptReader::Nothing, &ScriptReader::Entry, &ScriptReader::Size};
 
 } // namespace
 
@@ -159,7 +160,7 @@ Script ReadScript(const std::string& name, std::string_view text,
                   bool (*isEntry)(std::string_view menuEntry)) {
     Script script;
     script.Name = name;
-    Reader reader(script, isEntry);
+    ScriptReader reader(script, isEntry);
     while (!text.empty()) {
         const std::size_t feed = text.find('\n');
         reader.Line(text.substr(0, feed));

@@ -1,7 +1,7 @@
 // The measures as lines for people.
-#include "map/measure/MapMeasure.h"
-
 #include "map/info/EndText.h"
+#include "map/measure/MapMeasure.h"
+#include "map/measure/Percent.h"
 
 #include <cmath>
 #include <iomanip>
@@ -10,8 +10,6 @@
 namespace tumbledeep {
 
 namespace {
-
-std::string Percent(double part) { return std::to_string(std::lround(part * 100)) + " in 100"; }
 
 class Table {
   public:

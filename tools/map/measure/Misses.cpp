@@ -1,5 +1,6 @@
 // What the maps of a class are held to. The bounds were set by the first maps that people liked.
 #include "map/measure/MapMeasure.h"
+#include "map/measure/Percent.h"
 
 #include <algorithm>
 #include <array>
@@ -24,8 +25,6 @@ struct Bounds {
 constexpr std::array<Bounds, 3> AllBounds{{{'T', 0.20, 0.80, 1.00, 1.00, 0.90, true, false},
                                            {'M', 0.00, 0.00, 0.30, 0.90, 0.60, false, true},
                                            {'H', 0.00, 0.00, 0.05, 0.70, 0.20, false, true}}};
-
-std::string Percent(double part) { return std::to_string(std::lround(part * 100)) + " in 100"; }
 
 } // namespace
 
