@@ -123,6 +123,7 @@ void RandomGame::Period() {
     if (!game) return Start();
     try {
         Act();
+        ticks += game->ActiveChild.Interval100Timer.Enabled ? 1 : 0;
         game->TimerPeriod();
     } catch (const ProgramEnd&) {
         game = nullptr;

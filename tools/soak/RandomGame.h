@@ -45,6 +45,8 @@ class RandomGame {
     /// One period of the timer, with whatever the player does in it. When the process has ended,
     /// the period starts the next one instead.
     void Period();
+    /// How many ticks of the clock it has played; there is none while the game is paused or starts.
+    std::int64_t Ticks() const { return ticks; }
     /// Takes the state into a hash: the board, the view, the captions, the settings and all that
     /// the program has asked for since the last call.
     void AddTo(Hash& hash);
@@ -56,6 +58,7 @@ class RandomGame {
     Dice dice;
     MemoryPlatform services;
     std::unique_ptr<frmMain> game;
+    std::int64_t ticks = 0;
 };
 
 } // namespace tumbledeep
