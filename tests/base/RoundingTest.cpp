@@ -24,4 +24,10 @@ TEST(Rounding, TiesGoToEvenAtEverySize) {
     EXPECT_EQ(NearestTo16(2.5), 2);
 }
 
+TEST(Rounding, CounterStopsAtItsLimit) {
+    std::int16_t counter = 32766;
+    for (int i = 0; i < 3; ++i) CountUp(counter);
+    EXPECT_EQ(counter, 32767);
+}
+
 } // namespace tumbledeep

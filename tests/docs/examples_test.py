@@ -43,5 +43,20 @@ class Examples(unittest.TestCase):
         self.assertNotRegex(self.check(text, "m.TBM"), "keyword|number|heading")
 
 
+class Limits(unittest.TestCase):
+    def test_every_entry_names_tests_that_are_there(self):
+        text = (ROOT / "docs/LIMITS.md").read_text()
+        pins = re.findall(r"`(\w+/\w+\.(?:cpp|py))`(?::\s+((?:`\w+`(?:,\s+)?)+))?", text)
+        self.assertGreater(len(pins), 80)
+        for file, names in pins:
+            code = (ROOT / "tests" / file).read_text()
+            for name in re.findall(r"\w+", names):
+                with self.subTest(file, name=name):
+                    self.assertRegex(code, r"(TEST(_F)?\(\w+, |def )%s\b" % name)
+        entries = re.split(r"^- ", text[text.index("This is no bug\n\n##"):], flags=re.M)[1:]
+        for entry in entries:
+            self.assertRegex(entry, r"\.(cpp|py)`", "a test pins it")
+
+
 if __name__ == "__main__":
     unittest.main()

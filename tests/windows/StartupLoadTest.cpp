@@ -1,6 +1,7 @@
 // All ways into a map: the dialogs shown, the settings written, the files opened, the captions.
 // What a map holds is in formats/MapTextTest.cpp.
 #include "host/MemoryPlatform.h"
+#include "windows/Settings.h"
 #include "windows/frmMain.h"
 
 #include <gtest/gtest.h>
@@ -47,6 +48,14 @@ constexpr Start Starts[] = {
     {"empty list from the dialog", "", "", "Z:\\game\\empty.TBL",
      "ask; MAPLIST=empty; read .\\empty.TBL; box 16 The map list empty.TBL is empty.; end", "",
      "Area"},
+    {"an argument in small letters names nothing", "LOAD=low.tbm", "one.tbm", "Z:\\maps\\one.TBM",
+     "LOAD=.tbm; read .\\.tbm; ask; LOAD=one.TBM; LOAD=one.TBM; read Z:\\maps\\one.TBM",
+     " -  - one", "one.TBM"},
+    {"behind a list whose map is missing the map that is picked counts as a list", "", "gone.TBL",
+     "Z:\\maps\\one.TBM",
+     "MAPLIST=gone; LOAD=gone.TBL.tbm; read .\\gone.TBL; LOAD=none.TBM; read .\\none.TBM; ask; "
+     "LOAD=one.TBM; read Z:\\maps\\one; box 16 The map list one can't be opened.; end",
+     " - gone.TBL - one", "none.TBM"},
     {"malformed map", "LOAD=bad.TBM", "", "",
      "LOAD=bad.TBM; LOAD=bad.TBM; read .\\bad.TBM; box 0 An unknown error occured13", "",
      "bad.TBM"},
@@ -72,6 +81,7 @@ TEST(StartupLoad, RoadsIntoAMap) {
         }
         services.Files["Z:\\game\\all.TBL"] = "one\ntwo\n";
         services.Files["Z:\\game\\empty.TBL"] = "";
+        services.Files["Z:\\game\\gone.TBL"] = "none\n";
         services.Files["Z:\\game\\bad.TBM"] = "dirt x 0\n";
         services.Settings() =
             std::string("[Level]\n") + start.Settings + "\n[AutoMove]\nMOVE=False\n";
@@ -89,6 +99,27 @@ TEST(StartupLoad, RoadsIntoAMap) {
         const bool off = std::string_view(start.Settings).find("False") != std::string::npos;
         EXPECT_EQ(game.Entry("MnuStartLastMap").Checked, !off);
     }
+}
+
+TEST(StartupLoad, OfASettingsValueThe749thCharacterIsTheLast) {
+    MemoryPlatform services;
+    services.Settings() = "[Level]\nLOAD=" + std::string(748, 'x') + "yz\n";
+    EXPECT_EQ(IniRead(services, "Level", "Load"), std::string(748, 'x') + "y");
+}
+
+TEST(StartupLoad, TitlesComeWhereTheyStandAndTheLastYouCounts) {
+    MemoryPlatform services;
+    services.Settings() = "[Level]\nLOAD=m.TBM\n[AutoMove]\nMOVE=False\n";
+    services.Files["Z:\\game\\m.TBM"] = "you 0 0\ntitle a b\nyou 360 720\ntitle c\ndirt x 0\n";
+    frmMain game(services);
+    game.MDIForm_Activate();
+    EXPECT_TRUE(services.Log.ends_with(
+        "read .\\m.TBM; box 0 a b; box 0 c; box 0 An unknown error occured13"));
+    services.Files["Z:\\game\\m.TBM"] = "you 0 0\nyou 360 720\n";
+    frmMain whole(services);
+    whole.MDIForm_Activate();
+    EXPECT_EQ(whole.ActiveChild.Area(1, 1), Kind::Empty);
+    EXPECT_EQ(whole.ActiveChild.Area(3, 2), Kind::You);
 }
 
 } // namespace

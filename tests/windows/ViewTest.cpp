@@ -2,7 +2,7 @@
 // place at the start, and the choice among the modes.
 #include "support/Game.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace tumbledeep {
 
@@ -100,7 +100,33 @@ TEST(View, ModeTypedOnTheFirstRun) {
         scene.Services.Answers = {"yes", text};
         scene.Board.ResetStart();
         EXPECT_EQ(static_cast<int>(scene.Board.AutoMoveMode), mode) << text;
+        EXPECT_THAT(scene.Services.Log,
+                    testing::StartsWith("box 36 Do you want to the form to move automatically?; "));
     }
+}
+
+TEST(View, StoredChoiceIsTakenAsItIs) {
+    using Case = std::tuple<const char*, const char*, bool, int>;
+    for (const auto& [move, mode, on, number] :
+         {Case{"tRUE", "7", true, 7}, Case{"True ", "2", false, 2}, Case{"1", "1", false, 1},
+          Case{"True", "2x", true, 0}, Case{"True", "2.5", true, 2}, Case{"True", "", true, 0}}) {
+        Game scene;
+        scene.Services.Settings() =
+            std::string("[AutoMove]\nMOVE=") + move + "\nMODE=" + mode + "\n";
+        scene.Board.ResetStart();
+        EXPECT_EQ(scene.Board.AutoMoveOn, on) << move;
+        EXPECT_EQ(static_cast<int>(scene.Board.AutoMoveMode), number) << mode;
+    }
+}
+
+TEST(View, StatusBarKeepsRoomForASign) {
+    Game scene;
+    scene.Ticks(30);
+    EXPECT_EQ(scene.Main.Info.Panel, "Gems Remaining:  1");
+    Game empty("");
+    empty.Board.GemTotal = 0;
+    empty.Ticks(30);
+    EXPECT_EQ(empty.Main.Info.Panel, "Gems Remaining: -1");
 }
 
 } // namespace
