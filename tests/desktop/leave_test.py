@@ -78,22 +78,24 @@ class Leave(screen.GameTest):
         self.screen.key("alt+f", "r")
         self.screen.open_dialog()
 
-    def close(self, window):
-        """Presses the button of the window manager that closes a window."""
-        text = self.screen.run("xwininfo", "-id", window)
-        left, top, width = (int(text.split(name)[1].split()[0]) for name in (
-            "Absolute upper-left X:", "Absolute upper-left Y:", "Width:"))
-        self.screen.hands("mousemove", str(left + width - 10), str(top - 10), "click", "1")
+    def states(self):
+        return (self.idle, self.playing, self.paused, self.menu, self.dragging, self.title,
+                self.won, self.next_level, self.died, self.again, self.first_question, self.mode,
+                self.open_dialog, self.restart)
+
+    def reach(self, state):
+        """Comes to that state from an empty folder."""
+        for file in self.dir.iterdir():
+            file.unlink()
+        state()
 
     def leave(self, state, way):
         with self.subTest(state.__name__, way=way):
-            for file in self.dir.iterdir():
-                file.unlink()
-            state()
+            self.reach(state)
             settings = self.dir / "Tumbledeep.ini"
             before = settings.exists() and settings.read_bytes()
             if way == "close":
-                self.close(self.screen.windows("Tumble Deep.*")[0])
+                self.screen.close_window(self.screen.windows("Tumble Deep.*")[0])
             else:
                 self.screen.run("kill", "-" + way, str(self.pids()[0]))
             screen.wait_until("the end", lambda: not self.pids(), 5)
@@ -102,20 +104,31 @@ class Leave(screen.GameTest):
             self.screen.run("xdotool", "mouseup", "1")
 
     def test_a_signal(self):
-        for state in (self.idle, self.playing, self.paused, self.menu, self.dragging, self.title,
-                      self.won, self.next_level, self.died, self.again, self.first_question,
-                      self.mode, self.open_dialog, self.restart):
+        for state in self.states():
             self.leave(state, "TERM")
         self.leave(self.playing, "INT")
         self.leave(self.mode, "HUP")
 
-    def test_the_button_that_closes_the_window(self):
-        for state in (self.idle, self.playing, self.paused, self.title, self.next_level,
-                      self.again, self.mode, self.open_dialog, self.restart):
+    def test_closing_the_window(self):
+        for state in self.states():
             self.leave(state, "close")
 
     def test_closing_a_dialog_is_an_answer(self):
-        self.restart()
-        self.close(self.screen.open_dialog())
-        self.screen.wait_for_focus("Tumble Deep")
-        self.walk("d")
+        board, box = "Tumble Deep.*", "Tumbledeep"
+        for state, then, *setting in (
+                (self.title, board), (self.won, box), (self.next_level, None), (self.died, box),
+                (self.again, None), (self.first_question, board, "MOVE", "False"),
+                (self.mode, board, "MODE", "2"), (self.open_dialog, board), (self.restart, board)):
+            with self.subTest(state.__name__):
+                self.reach(state)
+                first, dialog = self.pids(), self.screen.wait_for_focus("(Tumbledeep|Open)")
+                self.screen.close_window(dialog)
+                if then:
+                    screen.wait_until("what follows", lambda: self.screen.wait_for_focus() in
+                                      set(self.screen.windows(then)) - {dialog})
+                    self.assertEqual(first, self.pids())
+                else:
+                    self.wait_for_end()
+                if setting:
+                    self.assertEqual(setting[1], self.setting(setting[0]))
+                self.kill_games()

@@ -1,5 +1,6 @@
 """A virtual screen with a window manager, the game on it, and a player's hands and eyes."""
 
+import ctypes
 import mmap
 import os
 import pathlib
@@ -127,6 +128,19 @@ class Screen:
     def windows(self, name):
         """The visible windows whose title is exactly that."""
         return self.run("xdotool", "search", "--onlyvisible", "--name", "^" + name + "$").split()
+
+    def close_window(self, window):
+        """Asks the window manager to close it, as a task bar does: also while a menu is open."""
+        x11 = ctypes.CDLL("libX11.so.6")
+        x11.XOpenDisplay.restype = ctypes.c_void_p
+        x11.XDefaultRootWindow.restype = x11.XInternAtom.restype = ctypes.c_ulong
+        display = ctypes.c_void_p(x11.XOpenDisplay(self.env["DISPLAY"].encode()))
+        root = ctypes.c_ulong(x11.XDefaultRootWindow(display))
+        client_message, of_words, to_managers = 33, 32, 3 << 19
+        event = (ctypes.c_ulong * 24)(client_message, 0, 1, 0, int(window), x11.XInternAtom(
+            display, b"_NET_CLOSE_WINDOW", 0), of_words)
+        x11.XSendEvent(display, root, 0, ctypes.c_long(to_managers), event)
+        x11.XCloseDisplay(display)
 
     def middle(self, window):
         text = self.run("xdotool", "getwindowgeometry", "--shell", window)
