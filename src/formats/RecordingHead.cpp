@@ -13,6 +13,8 @@ namespace {
 constexpr std::string_view MapMark = "# map ";
 constexpr std::string_view ChecksumMark = "# checksum ";
 constexpr std::string_view SeedMark = "# seed ";
+constexpr std::string_view StopMark = "# stop ";
+constexpr int Decimal = 10;
 constexpr int Hexadecimal = 16;
 constexpr std::size_t ChecksumDigits = 16;
 
@@ -62,8 +64,10 @@ RecordingHead ReadRecordingHead(std::string_view script) {
             head.Checksum =
                 NumberFrom<std::uint64_t>(line.substr(ChecksumMark.size()), Hexadecimal);
         } else if (!head.Seed && line.starts_with(SeedMark)) {
-            constexpr int decimal = 10;
-            head.Seed = NumberFrom<std::uint32_t>(line.substr(SeedMark.size()), decimal);
+            head.Seed = NumberFrom<std::uint32_t>(line.substr(SeedMark.size()), Decimal);
+        } else if (!head.Stop && line.starts_with(StopMark)) {
+            line.remove_prefix(StopMark.size());
+            head.Stop = NumberFrom<std::int64_t>(line.substr(0, line.find(' ')), Decimal);
         }
     }
     return head;

@@ -23,6 +23,7 @@ namespace {
 constexpr std::chrono::seconds LongestWait{2};
 constexpr std::chrono::microseconds BetweenTries{200};
 constexpr std::string_view NewExtension = ".new";
+constexpr std::string_view TagDigits = "0123456789abcdef";
 constexpr std::size_t TagLength = 8;
 /// So that tag and extension fit into the 255 bytes of a name.
 constexpr std::size_t LongestStem = 200;
@@ -100,11 +101,18 @@ std::string NewStem(const fs::path& path) {
 }
 
 std::string RandomTag() {
-    static constexpr std::string_view Digits = "0123456789abcdef";
     std::random_device random;
     std::string tag;
-    for (std::size_t i = 0; i < TagLength; ++i) tag += Digits[random() % Digits.size()];
+    for (std::size_t i = 0; i < TagLength; ++i) tag += TagDigits[random() % TagDigits.size()];
     return tag;
+}
+
+/// Whether a name is one that RandomTag has gone into: no player gives a file such a name.
+bool IsNewName(std::string_view name, std::string_view stem) {
+    if (!name.starts_with(stem) || !name.ends_with(NewExtension)) return false;
+    const std::string_view tag = name.substr(stem.size());
+    return tag.size() == TagLength + NewExtension.size() &&
+           tag.find_first_not_of(TagDigits) == TagLength;
 }
 
 /// Makes a file of a new name in the folder of a path. Returns its descriptor, -1 on failure.
@@ -163,15 +171,11 @@ bool ReplaceFile(const fs::path& path, std::string_view bytes) {
 
 void RemoveLeftovers(const fs::path& path) {
     const std::string stem = NewStem(path);
-    const std::size_t length = stem.size() + TagLength + NewExtension.size();
     std::error_code error;
     for (fs::directory_iterator entry(path.parent_path(), error), end; !error && entry != end;
          entry.increment(error)) {
-        const std::string name = entry->path().filename().string();
-        if (name.size() != length || !name.starts_with(stem) || !name.ends_with(NewExtension)) {
-            continue;
-        }
         std::error_code ignored;
+        if (!IsNewName(entry->path().filename().string(), stem)) continue;
         if (fs::is_regular_file(entry->symlink_status(ignored))) fs::remove(entry->path(), ignored);
     }
 }

@@ -121,7 +121,7 @@ TEST(SettingsFile, WritersLoseNothingOfOneAnother) {
 TEST(SettingsFile, LeftoversOfACrashAreCleared) {
     const TempFolder folder;
     for (const char* name : {"Tumbledeep.ini.0123abcd.new", "Tumbledeep.ini.new",
-                             "Tumbledeep.ini.bak", "Other.ini.0123abcd.new"}) {
+                             "Tumbledeep.ini.my notes.new", "Other.ini.0123abcd.new"}) {
         folder.Write(name, "");
     }
     EXPECT_TRUE(Write(folder.Path, "LOAD", "x"));

@@ -85,6 +85,17 @@ TEST(Hands, ARecordingPlaysToTheSameEnd) {
     EXPECT_GT(ends, 5);
 }
 
+TEST(Hands, AKeyHeldAtARecordingsEndIsHeldInItsReplay) {
+    MemoryPlatform system;
+    system.Files[Map] = "you 0 0\ngem1type 3600 3600\n";
+    const std::string lines = "answer no\nat 5 press Right\n# stop 250 tick 250\n";
+    Replay replay(system, ReadScript("s", lines, &IsMenuHandler), ReadRecordingHead(lines), Map);
+    frmMain game(replay);
+    replay.Start(game);
+    for (int step = 0; step < 250; ++step) replay.Period(game);
+    EXPECT_EQ(game.ActiveChild.YouCol, 42) << "a step in every six ticks";
+}
+
 TEST(Hands, BehindAScriptTheKeysAreThePlayers) {
     MemoryPlatform system;
     system.Files[Map] = "you 0 0\ngem1type 3600 3600\n";

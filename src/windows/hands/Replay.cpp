@@ -14,6 +14,8 @@ namespace {
 
 /// In ticks: what a last key sets off, a gem that falls, say, is still the script's.
 constexpr std::int64_t Echo = 100;
+/// No recording is longer than this; a script may say what it likes.
+constexpr std::int64_t LastStop = std::int64_t{1} << 60;
 
 } // namespace
 
@@ -22,7 +24,10 @@ Replay::Replay(Platform& system, Script lines, RecordingHead comments, std::stri
       script(std::move(lines)),
       head(std::move(comments)),
       map(std::move(mapPath)),
-      overAt((script.Events.empty() ? 0 : script.Events.back().Step) + Echo) {}
+      // A key that is held at a recording's end has no event for that.
+      overAt(std::max(script.Events.empty() ? 0 : script.Events.back().Step,
+                      std::clamp<std::int64_t>(head.Stop.value_or(0), 0, LastStop)) +
+             Echo) {}
 
 std::string Replay::LastLine(const frmMain& game) const {
     return "stop " + std::to_string(step) + " tick " + std::to_string(game.ActiveChild.TickCount);
