@@ -12,16 +12,16 @@ namespace tumbledeep {
 
 namespace {
 
-constexpr int Cycle = 301;      // ticks
+constexpr int ClockCycle = 301; // ticks
 constexpr int LargestMap = 301; // cells, both ways
 
 /// Plays whole cycles of one board.
 void PlayCycles(benchmark::State& state, const std::string& map) {
     Board board = LoadMap(map + Endless, 1);
     for ([[maybe_unused]] auto cycle : state) {
-        for (int tick = 0; tick < Cycle; ++tick) board.Tick({});
+        for (int tick = 0; tick < ClockCycle; ++tick) board.Tick({});
     }
-    CountEach(state, "per_tick", static_cast<double>(state.iterations()) * Cycle);
+    CountEach(state, "per_tick", static_cast<double>(state.iterations()) * ClockCycle);
 }
 
 void LargestShippedMap(benchmark::State& state) {
@@ -41,7 +41,7 @@ void RestingRocks(benchmark::State& state) {
         return full ? Object{} : (++rocks, Object{"roundrock", ""});
     });
     PlayCycles(state, map);
-    constexpr int rockTicks = Cycle / 6 + 1; // of a cycle; 0 is a multiple too
+    constexpr int rockTicks = ClockCycle / 6 + 1; // of a cycle; 0 is a multiple too
     CountEach(state, "per_rock", static_cast<double>(state.iterations()) * rockTicks * rocks);
 }
 BENCHMARK(RestingRocks)->Unit(benchmark::kMicrosecond);

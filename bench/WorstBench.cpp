@@ -77,7 +77,7 @@ void Worst(benchmark::State& state, const WorstMap& map) {
     }
 }
 
-const bool Registered = [] {
+const bool WorstRegistered = [] {
     for (const auto& maps : {FallingMaps(), ChainMaps(), StackMaps(), FactoryMaps(), WalkingMaps(),
                              PlayerMaps(), MixedMaps()}) {
         for (const WorstMap& map : maps) {

@@ -66,7 +66,7 @@ constexpr int AcrossASquare =
     1030; ///< ticks of a chain from corner to corner; half of them from the middle
 constexpr int AcrossTheField = 1700;
 
-constexpr WorstMap Maps[] = {
+constexpr WorstMap ChainList[] = {
     {"Chain/T, corner", [] { return Square("T", From::Corner); }, AcrossASquare},
     {"Chain/L, corner", [] { return Square("L", From::Corner); }, AcrossASquare},
     {"Chain/P, corner", [] { return Square("P", From::Corner); }, AcrossASquare},
@@ -93,6 +93,6 @@ constexpr WorstMap Maps[] = {
 
 } // namespace
 
-std::span<const WorstMap> ChainMaps() { return Maps; }
+std::span<const WorstMap> ChainMaps() { return ChainList; }
 
 } // namespace tumbledeep

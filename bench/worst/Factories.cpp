@@ -26,7 +26,7 @@ Board InOneCell(const char* recipe) {
 /// Bangs come and go again beside sprites that no blast finds, as these stand aside.
 Board BangsAmongMines(float aside) { return BoardOf({.Picture = {"f.", "LP"}, .Aside = aside}); }
 
-constexpr WorstMap Maps[] = {
+constexpr WorstMap FactoryList[] = {
     {"Factories/dirt", [] { return Packed("0:dirt"); }, WholeCycle},
     {"Factories/harddirt", [] { return Packed("0:harddirt"); }, WholeCycle},
     {"Factories/gem1type", [] { return Packed("0:gem1type"); }, WholeCycle},
@@ -48,6 +48,6 @@ constexpr WorstMap Maps[] = {
 
 } // namespace
 
-std::span<const WorstMap> FactoryMaps() { return Maps; }
+std::span<const WorstMap> FactoryMaps() { return FactoryList; }
 
 } // namespace tumbledeep

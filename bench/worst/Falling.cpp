@@ -37,7 +37,7 @@ Board RestingRocks() { return BoardOf({.Picture = {"O"}, .Rows = RowsOfAPool}); 
 
 Board RainOfT() { return BoardOf({.Picture = {"T", " ", " "}, .LowestFirst = true}); }
 
-constexpr WorstMap Maps[] = {
+constexpr WorstMap FallingList[] = {
     {"Falling/rocks", [] { return FallingPile("O"); }, WholeCycle},
     {"Falling/gems", [] { return FallingPile("*"); }, WholeCycle},
     {"Falling/T, the lowest row landing", RainOfT, WholeCycle},
@@ -69,6 +69,6 @@ constexpr WorstMap Maps[] = {
 
 } // namespace
 
-std::span<const WorstMap> FallingMaps() { return Maps; }
+std::span<const WorstMap> FallingMaps() { return FallingList; }
 
 } // namespace tumbledeep

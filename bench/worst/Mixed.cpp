@@ -52,13 +52,13 @@ Board AllPoolsFull(float aside) {
     return board;
 }
 
-constexpr WorstMap Maps[] = {
+constexpr WorstMap MixedList[] = {
     {"AllPoolsFull/on the pitch", [] { return AllPoolsFull(0); }, WholeCycle, "wasd"},
     {"AllPoolsFull/7 twips off", [] { return AllPoolsFull(7); }, WholeCycle, "wasd"},
 };
 
 } // namespace
 
-std::span<const WorstMap> MixedMaps() { return Maps; }
+std::span<const WorstMap> MixedMaps() { return MixedList; }
 
 } // namespace tumbledeep

@@ -46,7 +46,7 @@ Board Gems() { return BoardOf({.Picture = {"*"}, .Rows = RowsOfAPool}); }
 
 Board Column() { return HiddenDirt(Heading::Down, Corridor); }
 
-constexpr WorstMap Maps[] = {
+constexpr WorstMap PlayerList[] = {
     {"Player/gems restamped", Gems, WholeCycle, "wasd"},
     {"Player/column of hidden dirt", Column, WholeCycle, "ssss"},
     {"Player/column of hidden dirt, up and down", Column, WholeCycle, "ssww"},
@@ -62,6 +62,6 @@ constexpr WorstMap Maps[] = {
 
 } // namespace
 
-std::span<const WorstMap> PlayerMaps() { return Maps; }
+std::span<const WorstMap> PlayerMaps() { return PlayerList; }
 
 } // namespace tumbledeep

@@ -145,7 +145,7 @@ Board NearTieSpread() {
                        Spread(Plain(Kind::RoundRock), 179.6F, 0.3F, row - 2 * Pitch));
 }
 
-constexpr WorstMap Maps[] = {
+constexpr WorstMap StackList[] = {
     {"Stack/P blown", [] { return Blown({Kind::MovingMineP}); }, 24},
     {"Stack/dirt blown", [] { return Blown({Kind::Dirt}); }, 24},
     {"Stack/five kinds blown",
@@ -173,6 +173,6 @@ constexpr WorstMap Maps[] = {
 
 } // namespace
 
-std::span<const WorstMap> StackMaps() { return Maps; }
+std::span<const WorstMap> StackMaps() { return StackList; }
 
 } // namespace tumbledeep

@@ -34,7 +34,7 @@ Board ChangePlaces(Kind kind, float aside) {
     return board;
 }
 
-constexpr WorstMap Maps[] = {
+constexpr WorstMap WalkingList[] = {
     {"March/L", [] { return March("L", 0); }, WholeCycle},
     {"March/R", [] { return March("R", 0); }, WholeCycle},
     {"March/FL", [] { return March("F", 0); }, WholeCycle},
@@ -54,6 +54,6 @@ constexpr WorstMap Maps[] = {
 
 } // namespace
 
-std::span<const WorstMap> WalkingMaps() { return Maps; }
+std::span<const WorstMap> WalkingMaps() { return WalkingList; }
 
 } // namespace tumbledeep
