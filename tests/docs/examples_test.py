@@ -53,7 +53,7 @@ class Limits(unittest.TestCase):
             for name in re.findall(r"\w+", names):
                 with self.subTest(file, name=name):
                     self.assertRegex(code, r"(TEST(_F)?\(\w+, |def )%s\b" % name)
-        entries = re.split(r"^- ", text[text.index("This is no bug\n\n##"):], flags=re.M)[1:]
+        entries = re.split(r"^- ", text[text.index("This is no bug\n\n###"):], flags=re.M)[1:]
         for entry in entries:
             self.assertRegex(entry, r"\.(cpp|py)`", "a test pins it")
 

@@ -118,6 +118,15 @@ TEST(SettingsFile, WritersLoseNothingOfOneAnother) {
     EXPECT_EQ(folder.Entries(), 1);
 }
 
+TEST(SettingsFile, OneThatIsStoppedInItsWriteStopsNobody) {
+    const TempFolder folder;
+    const FolderLock stopped(folder.Path);
+    folder.Write("Tumbledeep.ini.0123abcd.new", "its text");
+    EXPECT_TRUE(stopped.Held());
+    EXPECT_TRUE(Write(folder.Path, "LOAD", "x"));
+    EXPECT_EQ(folder.Read("Tumbledeep.ini.0123abcd.new"), "its text") << "that may still be in use";
+}
+
 TEST(SettingsFile, LeftoversOfACrashAreCleared) {
     const TempFolder folder;
     for (const char* name : {"Tumbledeep.ini.0123abcd.new", "Tumbledeep.ini.new",
