@@ -11,10 +11,12 @@
 #include "host/SettingsFile.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QTimer>
+#include <QUrl>
 
 #include <chrono>
 #include <iostream>
@@ -39,22 +41,27 @@ fs::path ProgramFile() {
     return error ? fs::path(QCoreApplication::applicationFilePath().toStdString()) : file;
 }
 
-/// The filter as Qt writes it: "label (pattern pattern)". Small letters are added to each pattern,
-/// for dialogs that tell them apart.
-QString QtFilter(const std::string& filter) {
-    const QString text = QString::fromStdString(filter);
-    const QString label = text.section('|', 0, 0).section(" (", 0, 0);
-    QStringList patterns = text.section('|', 1).split(';');
+/// What a filter shows. Small letters are added to each pattern, for dialogs that tell them apart.
+QStringList Patterns(const std::string& filter) {
+    QStringList patterns = QString::fromStdString(filter).section('|', 1).split(';');
     for (const QString& pattern : QStringList(patterns)) patterns << pattern.toLower();
-    return label + " (" + patterns.join(' ') + ")";
+    return patterns;
 }
+
+/// The filter as Qt writes it: "label (pattern pattern)".
+QString QtFilter(const std::string& filter) {
+    const QString label = QString::fromStdString(filter).section('|', 0, 0).section(" (", 0, 0);
+    return label + " (" + Patterns(filter).join(' ') + ")";
+}
+
+QString TextOf(const fs::path& path) { return QString::fromStdString(path.string()); }
 
 } // namespace
 
 DesktopPlatform::DesktopPlatform(const Options& given)
     : options(given),
       program(ProgramFile()),
-      directory(given.Directory.value_or(program.parent_path())),
+      folders(FoldersOf(program, given.Directory)),
       unsaved(given.Unsaved) {}
 
 void DesktopPlatform::Quit() {
@@ -111,10 +118,19 @@ std::string DesktopPlatform::InputBox(const std::string& prompt) {
 }
 
 std::string DesktopPlatform::ShowOpen(const OpenDialog& dialog) {
-    QFileDialog open(DialogParent, QString::fromStdString(dialog.Title),
-                     QString::fromStdString(HostPath(dialog.InitDir).string()),
-                     QtFilter(dialog.Filter));
+    const QString filter = QtFilter(dialog.Filter);
+    QString folder = TextOf(HostPath(dialog.InitDir));
+    QList<QUrl> places{QUrl::fromLocalFile(QDir::homePath()), QUrl::fromLocalFile(folder)};
+    if (!folders.Shipped.empty()) {
+        const QString shipped = TextOf(folders.Shipped);
+        places << QUrl::fromLocalFile(shipped);
+        // The folder of a player who has no maps would be a dead end.
+        if (QDir(folder).entryList(Patterns(dialog.Filter), QDir::Files).isEmpty())
+            folder = shipped;
+    }
+    QFileDialog open(DialogParent, QString::fromStdString(dialog.Title), folder, filter);
     open.setFileMode(QFileDialog::ExistingFile);
+    open.setSidebarUrls(places);
     if (Show(open) != QDialog::Accepted || open.selectedFiles().isEmpty()) return "";
     std::string chosen = ProgramPath(open.selectedFiles().constFirst().toStdString());
     // The dialog offers both cases, the game knows a list by capitals alone; files are found in
@@ -132,7 +148,8 @@ void DesktopPlatform::Shell(const std::string& commandLine) {
     }
     // Where it was at the start there is a new one after an update, and none after a move.
     if (successor.Start(program, words)) return;
-    if (!options.Directory) words.insert(words.begin(), {"--dir", directory.string()});
+    const bool isPortable = !options.Directory && folders.Shipped.empty();
+    if (isPortable) words.insert(words.begin(), {"--dir", folders.Own.string()});
     if (successor.Start(RunningProgram, words)) return;
     MsgBox("The program can't be started again.", MsgBoxStyle::Stop);
 }
@@ -149,9 +166,9 @@ std::string DesktopPlatform::Notice() const {
     return unsaved ? "Tumbledeep.ini can't be written; settings last until you quit" : "";
 }
 
-std::string DesktopPlatform::AppPath() const { return ProgramPath(directory); }
+std::string DesktopPlatform::AppPath() const { return ProgramPath(folders.Own); }
 
-std::string DesktopPlatform::Command() const { return CommandText(options.Argument, directory); }
+std::string DesktopPlatform::Command() const { return CommandText(options.Argument, folders); }
 
 std::uint32_t DesktopPlatform::Seed() {
     const auto now = std::chrono::system_clock::now().time_since_epoch();
@@ -160,7 +177,7 @@ std::uint32_t DesktopPlatform::Seed() {
 }
 
 std::string DesktopPlatform::OpenForInput(const std::string& path) {
-    return ReadFile(FindFile(HostPath(path)));
+    return ReadFile(folders.Find(HostPath(path)));
 }
 
 std::string DesktopPlatform::GetPrivateProfileString(std::string_view section, std::string_view key,
@@ -173,7 +190,7 @@ void DesktopPlatform::WritePrivateProfileString(std::string_view section, std::s
     if (!unsaved && WriteProfile(section, key, value, path)) return;
     if (!unsaved) {
         unsaved = ReadSettings(path);
-        std::cerr << "tumbledeep: " << directory.string() << ": " << Notice() << '\n';
+        std::cerr << "tumbledeep: " << folders.Own.string() << ": " << Notice() << '\n';
     }
     unsaved = ProfileWith(*unsaved, section, key, value);
 }

@@ -4,6 +4,7 @@
 
 #include "desktop/Options.h"
 #include "desktop/Successor.h"
+#include "host/GameFolders.h"
 #include "host/Platform.h"
 
 #include <filesystem>
@@ -19,7 +20,7 @@ class DesktopPlatform final : public Platform {
     explicit DesktopPlatform(const Options& options);
 
     /// Where maps, lists and settings lie.
-    const std::filesystem::path& Directory() const { return directory; }
+    const GameFolders& Folders() const { return folders; }
     /// What the player is to know at the moment, such as that settings can't be written; "" for
     /// nothing.
     std::string Notice() const;
@@ -65,7 +66,7 @@ class DesktopPlatform final : public Platform {
 
     Options options;
     std::filesystem::path program; ///< as it was called at the start, whatever its name is by now
-    std::filesystem::path directory;
+    GameFolders folders;
     Successor successor;
     /// The text of the settings since a write failed. It stands in for the file until the player
     /// quits, so that a folder that can't be written is played like any other.

@@ -10,11 +10,11 @@
 
 namespace tumbledeep {
 
-void PrepareFirstStart(Platform& platform, const std::filesystem::path& directory) {
+void PrepareFirstStart(Platform& platform, const GameFolders& folders) {
     std::error_code error;
-    if (std::filesystem::exists(FindFile(directory / "Tumbledeep.ini"), error)) return;
+    if (std::filesystem::exists(FindFile(folders.Own / SettingsName), error)) return;
     try {
-        FieldInput list(ReadFile(FindFile(directory / "Default.TBL")));
+        FieldInput list(ReadFile(folders.Find(folders.Own / DefaultListName)));
         if (list.AtEnd()) return;
         IniWrite(platform, "Level", "Load", list.Next().Text + ".TBM");
         IniWrite(platform, "Level", "MapList", "Default");

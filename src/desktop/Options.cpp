@@ -113,7 +113,8 @@ const char* UsageText() {
            "\n"
            "  MAP         a map to play, such as \"First steps.TBM\"\n"
            "  LIST        a map list whose first map is played, such as Default.TBL\n"
-           "  --dir DIR   where maps, lists and Tumbledeep.ini lie (default: beside the program)\n"
+           "  --dir DIR   where maps, lists and Tumbledeep.ini lie (default: beside the program\n"
+           "              if it was unpacked, ~/.local/share/tumbledeep if it was installed)\n"
            "  --scale N   device pixels to a pixel of the game, 1 to 16 (default: by the screen)\n"
            "  --record FILE  writes what you do as a script for --replay and tumbledeep-trace, "
            "the\n"
@@ -127,7 +128,7 @@ const char* UsageText() {
            "Maps of your own are checked and tried by tumbledeep-map; docs/MAPS.md tells how.\n";
 }
 
-std::string CommandText(const std::string& argument, const fs::path& directory) {
+std::string CommandText(const std::string& argument, const GameFolders& folders) {
     const bool quoted = argument.size() >= 2 && argument.front() == '"' && argument.back() == '"';
     const std::string name = quoted ? argument.substr(1, argument.size() - 2) : argument;
     if (name.empty() || HasDrive(name)) return argument;
@@ -135,7 +136,8 @@ std::string CommandText(const std::string& argument, const fs::path& directory) 
     const fs::path host = HostPath(name);
     std::error_code error;
     if (host.is_absolute()) return ProgramPath(host);
-    if (!fs::exists(FindFile(directory / host), error) && fs::exists(FindFile(host), error)) {
+    const bool isTheGames = fs::exists(folders.Find(folders.Own / host), error);
+    if (!isTheGames && fs::exists(FindFile(host), error)) {
         return ProgramPath(host);
     }
     std::string relative = name;

@@ -2,6 +2,8 @@
 // text that is the game's. What they bring about is RunGame's.
 #pragma once
 
+#include "host/GameFolders.h"
+
 #include <filesystem>
 #include <optional>
 #include <span>
@@ -39,7 +41,7 @@ const char* UsageText();
 std::filesystem::path NextRecording(const std::filesystem::path& file);
 
 /// The game's command line for what the player wrote: a relative map or list is looked for in the
-/// program's directory first and then in the current one, and a host's path becomes the program's.
-std::string CommandText(const std::string& argument, const std::filesystem::path& directory);
+/// game's folders first and then in the current one, and a host's path becomes the program's.
+std::string CommandText(const std::string& argument, const GameFolders& folders);
 
 } // namespace tumbledeep

@@ -77,7 +77,7 @@ int PlayRecorded(DesktopPlatform& platform, const Options& options) {
 
 /// A script plays, and the player watches.
 int PlayReplay(DesktopPlatform& platform, const Options& options) {
-    ReplayFile file = ReadReplay(*options.Replay, options.Argument, platform.Directory());
+    ReplayFile file = ReadReplay(*options.Replay, options.Argument, platform.Folders());
     Replay replay(platform, std::move(file.Lines), std::move(file.Head), file.Map);
     platform.Patience = [&replay, &options] {
         constexpr int look = 1500;
@@ -119,8 +119,11 @@ int Run(int argc, char** argv) {
     DesktopPlatform platform(options);
     QuitOnSignals([&platform] { platform.Quit(); });
     if (options.Replay) return PlayReplay(platform, options);
+    // Where that fails the settings can't be written either, which the player is told.
+    std::error_code error;
+    std::filesystem::create_directories(platform.Folders().Own, error);
     if (options.Argument.empty() && !options.Unsaved) {
-        PrepareFirstStart(platform, platform.Directory());
+        PrepareFirstStart(platform, platform.Folders());
     }
     if (options.Record) return PlayRecorded(platform, options);
     Hands player;

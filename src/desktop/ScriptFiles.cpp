@@ -30,7 +30,7 @@ void RecordingFile::Write(const std::string& lines) {
     if (!file) std::cerr << "tumbledeep: " << name.string() << ": the recording can't be written\n";
 }
 
-ReplayFile ReadReplay(const fs::path& script, const std::string& map, const fs::path& directory) {
+ReplayFile ReadReplay(const fs::path& script, const std::string& map, const GameFolders& folders) {
     ReplayFile replay;
     std::string text;
     try {
@@ -47,8 +47,8 @@ ReplayFile ReadReplay(const fs::path& script, const std::string& map, const fs::
                                  "behind it");
     }
     const fs::path above = script.parent_path().parent_path();
-    for (const fs::path& folder : {directory, fs::current_path(), script.parent_path(), above}) {
-        const fs::path file = FindFile(folder / name);
+    for (const fs::path& folder : {folders.Own, fs::current_path(), script.parent_path(), above}) {
+        const fs::path file = folders.Find(folder / name);
         std::error_code error;
         if (!fs::is_regular_file(file, error)) continue;
         if (replay.Head.Checksum && *replay.Head.Checksum != ChecksumOf(ReadFile(file))) {

@@ -4,6 +4,7 @@
 
 #include "formats/RecordingHead.h"
 #include "formats/Script.h"
+#include "host/GameFolders.h"
 
 #include <filesystem>
 #include <fstream>
@@ -32,9 +33,9 @@ struct ReplayFile {
 };
 
 /// Reads a script, and looks for its map: the one that the player names, or else that of the
-/// script, in the game's folder, the current one, that of the script and the one above it. Throws
+/// script, in the game's folders, the current one, that of the script and the one above it. Throws
 /// std::runtime_error with a text for the player.
 ReplayFile ReadReplay(const std::filesystem::path& script, const std::string& map,
-                      const std::filesystem::path& directory);
+                      const GameFolders& folders);
 
 } // namespace tumbledeep

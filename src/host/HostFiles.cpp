@@ -180,6 +180,11 @@ void RemoveLeftovers(const fs::path& path) {
     }
 }
 
+bool IsWritableFolder(const fs::path& folder) {
+    std::error_code error;
+    return fs::is_directory(folder, error) && access(folder.c_str(), W_OK | X_OK) == 0;
+}
+
 FolderLock::FolderLock(const fs::path& folder)
     : descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
     if (descriptor < 0) return;

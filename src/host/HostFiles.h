@@ -29,6 +29,9 @@ bool ReplaceFile(const std::filesystem::path& path, std::string_view bytes);
 /// midst of it. To be called by who holds the folder's lock, so that none is in use.
 void RemoveLeftovers(const std::filesystem::path& path);
 
+/// Whether this process may make files in a folder.
+bool IsWritableFolder(const std::filesystem::path& folder);
+
 /// A lock on a folder, held by one process at a time while the object lives. It leaves no file.
 class FolderLock {
   public:

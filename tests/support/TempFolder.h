@@ -28,7 +28,7 @@ class TempFolder {
 
     const std::filesystem::path Path;
 
-    void Write(const std::string& name, const std::string& bytes) const {
+    void Write(const std::filesystem::path& name, const std::string& bytes) const {
         std::ofstream(Path / name, std::ios::binary) << bytes;
     }
     std::string Read(const std::string& name) const {
