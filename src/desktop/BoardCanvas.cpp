@@ -21,6 +21,8 @@ namespace tumbledeep {
 namespace {
 
 constexpr QRgb ParentBackground = 0xFF808080;
+/// Over the white of the board a middle grey, through which all kinds can be told.
+constexpr QColor Dimming(24, 28, 48, 112);
 
 std::optional<Heading> ArrowOf(const QKeyEvent& event) {
     switch (event.key()) {
@@ -60,6 +62,17 @@ QRect BoardCanvas::DeviceRect() const {
 
 QPointF BoardCanvas::ToDevicePoint(const QPointF& logical) const {
     return logical * devicePixelRatioF();
+}
+
+QRect BoardCanvas::RoundThePlayer() const {
+    const QRect board = BoardRect(game.ActiveChild, Scale());
+    const QRect player = SpriteRect(game.ActiveChild.You, Scale()).translated(board.topLeft());
+    if (!(DeviceRect() & board).intersects(player)) return {};
+    const int round = 2 * SpriteSide(Scale());
+    const QRect device = player.adjusted(-round, -round, round, round);
+    const qreal ratio = devicePixelRatioF();
+    return {mapToGlobal((QPointF(device.topLeft()) / ratio).toPoint()),
+            (QSizeF(device.size()) / ratio).toSize()};
 }
 
 void BoardCanvas::Sync() {
@@ -132,6 +145,7 @@ void BoardCanvas::PaintBoard(QPainter& painter, const QRect& part, QPoint corner
     for (const BoardLook::Shown& shown : look.Within(part.translated(-corner), Scale())) {
         painter.drawImage(shown.Corner + corner, images.Of(shown.Which, shown.Look));
     }
+    if (dimmed) painter.fillRect(part, Dimming);
     painter.setClipping(false);
 }
 
@@ -143,17 +157,45 @@ bool BoardCanvas::OnSurface(const QPointF& device) const {
     return std::ranges::all_of(there, IsSurface, &BoardLook::Shown::Which);
 }
 
+void BoardCanvas::LookAtCapsLock() {
+    const auto on = AskCapsLock(static_cast<std::uint32_t>(window()->winId()));
+    if (on) SetCapsLock(*on);
+}
+
+void BoardCanvas::SetCapsLock(bool on) {
+    if (std::exchange(capsLock, on) != on) CapsLockTurned(on);
+}
+
 void BoardCanvas::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_CapsLock) LookAtCapsLock();
     if (arrows.Press(CodeOf(*event), ArrowOf(*event))) return;
     if (event->modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier)) {
         return QWidget::keyPressEvent(event);
     }
-    Type(event->text());
+    if (event->isAutoRepeat()) return;
+    const QString text = event->text();
+    if (text.size() == 1 && text.front().isPrint()) {
+        letters.Press(CodeOf(*event), text.toStdString());
+        // Where the system does not tell of the lock, its letters do.
+        const bool shifted = event->modifiers().testFlag(Qt::ShiftModifier);
+        if (text.front().isLetter()) SetCapsLock(text.front().isUpper() != shifted);
+    }
+    Type(text);
+}
+
+void BoardCanvas::SetDimmed(bool dim) {
+    if (std::exchange(dimmed, dim) != dim) update();
+}
+
+void BoardCanvas::RepeatLetters() {
+    if (const std::string letter = letters.Period(); !letter.empty()) Typed(letter);
 }
 
 void BoardCanvas::keyReleaseEvent(QKeyEvent* event) {
     // A key that repeats reports releases that no finger made.
     if (event->isAutoRepeat()) return;
+    if (event->key() == Qt::Key_CapsLock) LookAtCapsLock();
+    letters.Release(CodeOf(*event));
     if (!arrows.Release(CodeOf(*event))) QWidget::keyReleaseEvent(event);
 }
 
@@ -170,11 +212,13 @@ void BoardCanvas::Type(const QString& text) {
 
 void BoardCanvas::focusInEvent(QFocusEvent* event) {
     arrows.RegainKeyboard(AskKeyboard());
+    LookAtCapsLock();
     QWidget::focusInEvent(event);
 }
 
 void BoardCanvas::focusOutEvent(QFocusEvent* event) {
     arrows.LoseKeyboard();
+    letters.LoseKeyboard();
     QWidget::focusOutEvent(event);
 }
 

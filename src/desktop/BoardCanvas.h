@@ -5,6 +5,7 @@
 
 #include "desktop/BoardLook.h"
 #include "desktop/HeldArrows.h"
+#include "desktop/HeldLetters.h"
 #include "desktop/SpriteImages.h"
 #include "windows/frmMain.h"
 
@@ -25,6 +26,8 @@ class BoardCanvas final : public QWidget {
     /// One character has been typed.
     std::function<void(const std::string& text)> Typed;
     std::function<void(Heading arrow, bool down)> ArrowKey;
+    /// Caps Lock has gone on or off; with it on, letters are no keys of play.
+    std::function<void(bool on)> CapsLockTurned;
     /// The left button has gone down on the board's own surface. False if that is no act of play:
     /// then its moves are none either.
     std::function<bool()> BoardPressed;
@@ -40,10 +43,16 @@ class BoardCanvas final : public QWidget {
     /// Looks at the board, which is painted as it is now until the next call, and has repainted
     /// what has changed since the last one.
     void Sync();
+    /// Paints the board darker, as one that stands still.
+    void SetDimmed(bool dim);
+    /// A period of the running clock begins: held letters type again when it is time.
+    void RepeatLetters();
     /// From here on the board follows the mouse, until the button is released.
     void BeginDrag() { dragging = true; }
     /// Whole device pixels to a pixel of the game.
     int Scale() const;
+    /// The player and the cells round him, in the screen's coordinates; empty if out of sight.
+    QRect RoundThePlayer() const;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -58,6 +67,8 @@ class BoardCanvas final : public QWidget {
 
   private:
     void Type(const QString& text);
+    void LookAtCapsLock();
+    void SetCapsLock(bool on);
     /// A logical pixel is a square of whole device pixels.
     bool HasWholeRatio() const;
     void UpdateDevice(const QRegion& device);
@@ -73,8 +84,11 @@ class BoardCanvas final : public QWidget {
     SpriteImages images;
     BoardLook look;
     HeldArrows arrows;
+    HeldLetters letters;
     QRect shownBoard;
     int shownScale = 0;
+    bool capsLock = false;
+    bool dimmed = false;
     bool pressedOnBoard = false;
     bool dragging = false;
     bool cameUp = false;

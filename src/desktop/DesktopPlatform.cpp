@@ -3,7 +3,7 @@
 #include "desktop/DesktopPlatform.h"
 
 #include "base/Failure.h"
-#include "desktop/LongTextBox.h"
+#include "desktop/MessageBox.h"
 #include "formats/Profile.h"
 #include "formats/ProgramPath.h"
 #include "host/HostFiles.h"
@@ -14,7 +14,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
-#include <QMessageBox>
 #include <QTimer>
 #include <QUrl>
 
@@ -83,31 +82,11 @@ template <class Dialog> int DesktopPlatform::Show(Dialog& dialog) {
 }
 
 int DesktopPlatform::MsgBox(const std::string& text, int style) {
-    const bool asks = MsgBoxStyle::Asks(style);
-    const auto icon = style == MsgBoxStyle::Stop          ? QMessageBox::Critical
-                      : style == MsgBoxStyle::Question    ? QMessageBox::Question
-                      : style == MsgBoxStyle::Exclamation ? QMessageBox::Warning
-                                                          : QMessageBox::NoIcon;
-    const auto buttons =
-        asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok);
-    const auto first = asks ? QMessageBox::Yes : QMessageBox::Ok;
-    const QString shown = ShownText(text);
-    const auto ask = [&](auto& box) {
-        box.setWindowTitle(Title);
-        return Show(box);
-    };
-    int button = 0;
-    if (IsLong(shown)) {
-        LongTextBox box(DialogParent, shown, icon, buttons, first);
-        button = ask(box);
-    } else {
-        QMessageBox box(icon, Title, shown, buttons, DialogParent);
-        box.setTextFormat(Qt::PlainText);
-        box.setDefaultButton(first);
-        button = ask(box);
-    }
-    if (!asks) return MsgBoxAnswer::Ok;
-    return button == QMessageBox::Yes ? MsgBoxAnswer::Yes : MsgBoxAnswer::No;
+    MessageBox box(DialogParent, Title, text, style);
+    if (PlayerOnScreen) box.StandClearOf(PlayerOnScreen());
+    const int answer = Show(box);
+    if (!MsgBoxStyle::Asks(style)) return MsgBoxAnswer::Ok;
+    return answer == MsgBoxAnswer::Yes ? answer : MsgBoxAnswer::No;
 }
 
 std::string DesktopPlatform::InputBox(const std::string& prompt) {

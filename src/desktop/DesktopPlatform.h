@@ -7,6 +7,8 @@
 #include "host/GameFolders.h"
 #include "host/Platform.h"
 
+#include <QRect>
+
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -30,6 +32,9 @@ class DesktopPlatform final : public Platform {
     QWidget* DialogParent = nullptr;
     std::function<void()> BeforeDialog;
     std::function<void()> AfterDialog;
+    /// Where the player and what is next to him are on the screen, in its coordinates; empty if out
+    /// of sight. Boxes keep off that. None: they keep off nothing.
+    std::function<QRect()> PlayerOnScreen;
     /// In milliseconds, how long a dialog is shown until it goes by itself; 0 for ever. None: 0.
     std::function<int()> Patience;
     /// Makes the board follow the mouse until the button is released. Set before the game starts.

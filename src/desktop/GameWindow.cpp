@@ -2,21 +2,19 @@
 // bar, dialogs, and what the focus has to do with them.
 #include "desktop/GameWindow.h"
 
-#include "desktop/SpriteImages.h"
+#include "desktop/MapPlace.h"
 #include "formats/Script.h"
-#include "pictures/Catalogue.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QStatusBar>
 #include <QWindow>
 
 #include <array>
 #include <iostream>
+#include <utility>
 
 namespace tumbledeep {
 
@@ -24,8 +22,6 @@ namespace {
 
 using Do = PlayerAct::Do;
 
-/// In logical pixels, both ways.
-constexpr int StatusPictureSize = 14;
 /// In milliseconds: how long a first dialog waits for the focus, which never comes without a window
 /// manager.
 constexpr int FocusPatience = 500;
@@ -50,10 +46,10 @@ GameWindow::GameWindow(frmMain& main, Hands& player, DesktopPlatform& services,
                     [this] {
                         if (openDialogs > 0) platform.Quit();
                     }),
+      status(*this),
       canvas(main, options.Scale) {
     setCentralWidget(&canvas);
     BuildMenu();
-    BuildStatusBar();
     ConnectCanvas();
     ConnectDialogs();
     canvas.setFocus();
@@ -62,6 +58,7 @@ GameWindow::GameWindow(frmMain& main, Hands& player, DesktopPlatform& services,
     timer.setInterval(game.ActiveChild.Interval100Timer.Interval);
     connect(&timer, &QTimer::timeout, this, [this] {
         for (int i = 0; i < periods && openDialogs == 0; ++i) {
+            if (game.ActiveChild.Interval100Timer.Enabled) canvas.RepeatLetters();
             Deliver([this] { hands.Period(game); });
         }
     });
@@ -104,6 +101,7 @@ void GameWindow::Deliver(const std::function<void()>& event) {
 }
 
 void GameWindow::Act(const PlayerAct& act) {
+    if (act.What == Do::Menu) placeIsOld = true;
     Deliver([this, &act] { hands.Act(game, act); });
 }
 
@@ -121,10 +119,6 @@ void GameWindow::Sync() {
         // The window system breaks off with who sends it a title of megabytes.
         setWindowTitle(QString::fromStdString(shownCaption.substr(0, LongestCaption)));
     }
-    if (game.Info.Panel != shownStatus) {
-        shownStatus = game.Info.Panel;
-        panel->setText(QString::fromStdString(shownStatus));
-    }
     for (std::size_t i = 0; i < actions.size(); ++i) {
         const bool checked = game.Menu[i].Checked;
         if (actions[i] == nullptr || actions[i]->isChecked() == checked) continue;
@@ -132,15 +126,33 @@ void GameWindow::Sync() {
         actions[i]->setCheckable(true);
         actions[i]->setChecked(checked);
     }
-    if (const std::string told = hands.Note() + platform.Notice(); told != shownNote) {
-        shownNote = told;
-        note->setText(QString::fromStdString(shownNote));
-    }
+    SyncStatus();
     const bool runs = started && openDialogs == 0 &&
                       (game.ActiveChild.Interval100Timer.Enabled || hands.NeedsPeriods());
     if (runs && !timer.isActive()) timer.start();
     if (!runs) timer.stop();
+    canvas.SetDimmed(IsPaused());
     canvas.Sync();
+}
+
+bool GameWindow::IsPaused() const {
+    return started && openDialogs == 0 && !game.ActiveChild.Interval100Timer.Enabled;
+}
+
+void GameWindow::SyncStatus() {
+    const frmDocument& board = game.ActiveChild;
+    status.Show(StatusPlace::Panel, game.Info.Panel);
+    status.Show(StatusPlace::Advice, !IsPaused() ? ""
+                                     : isAway    ? "Paused until you come back"
+                                                 : "Paused: p goes on");
+    status.Show(StatusPlace::Note, hands.Note() + platform.Notice());
+    // The list is a file, so it is read only when the map or the list may be another.
+    if (std::exchange(placeIsOld, false) || board.Form.Caption != placedMap) {
+        placedMap = board.Form.Caption;
+        mapPlace = MapInList(game, platform);
+    }
+    const std::string view = ViewName(board);
+    status.Show(StatusPlace::Map, mapPlace + (mapPlace.empty() || view.empty() ? "" : "; ") + view);
 }
 
 void GameWindow::BuildMenu() {
@@ -151,6 +163,14 @@ void GameWindow::BuildMenu() {
         if (entry.Submenu) {
             open[level] = level == 1 ? menuBar()->addMenu(entry.Caption)
                                      : open[level - 1]->addMenu(entry.Caption);
+            // The toolkit would leave the keyboard with the menu bar. Queued, as the next menu may
+            // open in this one's place.
+            connect(
+                open[level], &QMenu::aboutToHide, this,
+                [this] {
+                    if (QApplication::activePopupWidget() == nullptr) canvas.setFocus();
+                },
+                Qt::QueuedConnection);
         } else {
             action = open[level - 1]->addAction(entry.Caption);
             connect(action, &QAction::triggered, this, [this, name = std::string(entry.Name)] {
@@ -161,30 +181,15 @@ void GameWindow::BuildMenu() {
     }
 }
 
-void GameWindow::BuildStatusBar() {
-    auto* const disc = new QLabel;
-    const QImage image = ImageOf(StatusDisc(), 4, StatusDiscCovers);
-    QPixmap pixmap = QPixmap::fromImage(
-        image.scaled(QSize(StatusPictureSize, StatusPictureSize) * devicePixelRatioF(),
-                     Qt::KeepAspectRatio, Qt::SmoothTransformation));
-    pixmap.setDevicePixelRatio(devicePixelRatioF());
-    disc->setPixmap(pixmap);
-    disc->setContentsMargins(6, 0, 2, 0);
-    panel = new QLabel;
-    panel->setTextFormat(Qt::PlainText);
-    statusBar()->addWidget(disc);
-    note = new QLabel;
-    note->setTextFormat(Qt::PlainText);
-    statusBar()->addWidget(panel);
-    statusBar()->addPermanentWidget(note);
-}
-
 void GameWindow::ConnectCanvas() {
     canvas.Typed = [this](const std::string& text) {
         if (started) Act({Do::Type, text});
     };
     canvas.ArrowKey = [this](Heading arrow, bool down) {
         Act({down ? Do::Press : Do::Release, "", arrow});
+    };
+    canvas.CapsLockTurned = [this](bool on) {
+        status.Show(StatusPlace::CapsLock, on ? "Caps Lock is on" : "");
     };
     canvas.BoardPressed = [this] {
         if (BringsBack()) return false;
@@ -215,6 +220,7 @@ void GameWindow::ConnectCanvas() {
 
 void GameWindow::ConnectDialogs() {
     platform.DialogParent = this;
+    platform.PlayerOnScreen = [this] { return canvas.RoundThePlayer(); };
     platform.BeforeDialog = [this] {
         ++openDialogs;
         Sync();

@@ -6,6 +6,7 @@
 #include "desktop/BoardCanvas.h"
 #include "desktop/CloseRequests.h"
 #include "desktop/DesktopPlatform.h"
+#include "desktop/StatusLine.h"
 #include "windows/hands/Hands.h"
 
 #include <QElapsedTimer>
@@ -17,7 +18,6 @@
 #include <vector>
 
 class QAction;
-class QLabel;
 
 namespace tumbledeep {
 
@@ -38,9 +38,11 @@ class GameWindow final : public QMainWindow {
     /// The same for one thing that the player does.
     void Act(const PlayerAct& act);
     void Sync();
+    void SyncStatus();
+    /// The clock stands, and no dialog is open that holds it.
+    bool IsPaused() const;
     void TakeOuterSize();
     void BuildMenu();
-    void BuildStatusBar();
     void ConnectCanvas();
     void ConnectDialogs();
     /// The player goes to another program, or comes back from one.
@@ -53,13 +55,12 @@ class GameWindow final : public QMainWindow {
     frmMain& game;
     Hands& hands;
     DesktopPlatform& platform;
-    int periods; ///< of the game to a period of the timer
-    QLabel* panel = nullptr;
-    QLabel* note = nullptr; ///< at the right end of the status bar: what is told of the hands
+    int periods;                   ///< of the game to a period of the timer
     std::vector<QAction*> actions; ///< by index in the game's menu, nullptr for a submenu
     std::string shownCaption;
-    std::string shownStatus;
-    std::string shownNote;
+    std::string placedMap; ///< the map that mapPlace is about
+    std::string mapPlace;
+    bool placeIsOld = false;
     QTimer timer;
     int openDialogs = 0;
     int shownPipe; ///< where a predecessor waits to be told that this window is up; then -1
@@ -69,6 +70,7 @@ class GameWindow final : public QMainWindow {
     bool isAway = false;
     QElapsedTimer sinceReturn; ///< not valid before the first return
     CloseRequests closeRequests;
+    StatusLine status;
     /// Last, so that it goes first: it loses the focus as the window goes, and tells the window so.
     BoardCanvas canvas;
 };

@@ -4,6 +4,7 @@
 
 #include <bitset>
 #include <cstdint>
+#include <optional>
 
 namespace tumbledeep {
 
@@ -15,5 +16,8 @@ using KeyboardState = std::bitset<256>;
 
 /// The keyboard as it is now. All keys are up where the system does not tell: Wayland tells none.
 KeyboardState AskKeyboard();
+
+/// Whether Caps Lock is on; none where the system does not tell. The window may be any.
+std::optional<bool> AskCapsLock(std::uint32_t window);
 
 } // namespace tumbledeep

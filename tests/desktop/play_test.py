@@ -17,26 +17,44 @@ class Play(screen.GameTest):
         self.screen.hands("mousemove", str(int(x + col * screen.CELL)),
                           str(int(y + row * screen.CELL)), "click", "1")
 
-    def test_letters_step_once_and_arrows_while_they_are_held(self):
+    def test_a_press_is_one_step_and_letters_and_arrows_go_on_while_they_are_held(self):
         self.begin(CORRIDOR)
-        self.screen.hands("keydown", "d")
-        self.wait_for_you(2, 1)
+        self.screen.hands("keydown", "d", "sleep", "0.05", "keyup", "d")
         time.sleep(0.5)
-        self.assertEqual((2, 1), self.you())
-        self.screen.hands("keyup", "d", "keydown", "Right")
-        screen.wait_until("several steps", lambda: self.you()[0] >= 6)
-        self.screen.hands("keyup", "Right")
-        time.sleep(0.5)
-        stopped = self.you()
-        self.assertLess(stopped[0], 36, "before the wall")
+        self.assertEqual((2, 1), self.you(), "a press")
+        for key in ("d", "Right"):
+            start = self.you()[0]
+            self.screen.hands("keydown", key)
+            screen.wait_until("several steps", lambda: self.you()[0] >= start + 5)
+            self.screen.hands("keyup", key)
+            time.sleep(0.3)
+            stopped = self.you()
+            self.assertLess(stopped[0], 36, "before the wall")
+            time.sleep(0.3)
+            self.assertEqual(stopped, self.you())
+
+    def test_boxes_keep_clear_of_the_player_and_take_no_key_of_play(self):
+        self.begin(["#####", "#O  #", "#:  #", "#@ *#", "#####"])
+        first = self.pids()
+        self.screen.hands("key", "--delay", "50", "w", "s")
+        died = self.screen.open_dialog()
+        self.assertTrue(self.spot(), "the player and what has killed him can be seen")
+        self.screen.answer("Return")
+        again = self.screen.open_dialog()
+        self.assertNotEqual(died, again)
+        self.screen.key("Right", "d", "n", "y")
         time.sleep(0.3)
-        self.assertEqual(stopped, self.you())
+        self.assertIn(again, self.screen.windows("Tumbledeep"))
+        self.screen.key("Return")
+        self.wait_for_successor(first)        # Yes: the arrow has not moved the choice
 
     def test_p_and_a_click_pause(self):
         self.begin(CORRIDOR)
         self.screen.key("p")
         self.screen.hands(*HELD_RIGHT, "key", "d")
         self.assertEqual((1, 1), self.you(), "after p neither arrows nor letters step")
+        wall = self.board()
+        self.assertEqual(screen.DIMMED[screen.WALL], self.screen.pixels.at(*wall), "it is seen")
         self.screen.key("p", "d")
         self.wait_for_you(2, 1)
 

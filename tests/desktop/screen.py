@@ -20,6 +20,7 @@ WHITE = (255, 255, 255)
 WALL = (0, 0, 0)
 DIRT = (192, 192, 192)
 YOU = (255, 192, 192)
+DIMMED = {WALL: (11, 12, 21), YOU: (154, 120, 129)}  # while the game is paused
 DESKTOP = (32, 64, 96)  # behind all windows, no colour of the game's
 
 ROOM = ["##########",
@@ -49,11 +50,13 @@ class Shot:
         return self.data[3 * (y * self.width + x0):3 * (y * self.width + x1)]
 
     def find(self, colour, count=1):
-        """Where so many pixels of that colour first stand side by side, by rows; else None."""
-        wanted, at = bytes(colour) * count, -1
-        while (at := self.data.find(wanted, at + 1)) >= 0:
-            if at % 3 == 0:
-                return at // 3 % self.width, at // 3 // self.width
+        """Where so many pixels of that colour, or of a paused game's, first stand side by side, by
+        rows; else None."""
+        for seen in filter(None, (colour, DIMMED.get(colour))):
+            wanted, at = bytes(seen) * count, -1
+            while (at := self.data.find(wanted, at + 1)) >= 0:
+                if at % 3 == 0:
+                    return at // 3 % self.width, at // 3 // self.width
         return None
 
 

@@ -9,6 +9,7 @@ import screen
 class Shell(screen.GameTest):
     def test_restart_asks_and_a_window_is_on_the_screen_throughout(self):
         window = self.begin(screen.ROOM, "--scale", "1")
+        self.screen.key("alt+f", "Escape")    # and the board has the keyboard again
         self.walk("d")
         first, spot, seen = self.pids(), self.screen.middle(window), set()
         self.screen.key("alt+f", "r")
