@@ -37,6 +37,8 @@ class DesktopPlatform final : public Platform {
     std::function<QRect()> PlayerOnScreen;
     /// In milliseconds, how long a dialog is shown until it goes by itself; 0 for ever. None: 0.
     std::function<int()> Patience;
+    /// What is done as a map is loaded; see Platform::Loading. None: nothing.
+    std::function<void(double share)> LoadProgress;
     /// Makes the board follow the mouse until the button is released. Set before the game starts.
     std::function<void()> BeginDrag;
 
@@ -55,6 +57,9 @@ class DesktopPlatform final : public Platform {
     std::string Command() const override;
     std::uint32_t Seed() override;
     std::string OpenForInput(const std::string& path) override;
+    void Loading(double share) override {
+        if (LoadProgress) LoadProgress(share);
+    }
     std::string GetPrivateProfileString(std::string_view section, std::string_view key,
                                         const std::string& path) override;
     void WritePrivateProfileString(std::string_view section, std::string_view key,

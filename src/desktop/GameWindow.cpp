@@ -10,6 +10,7 @@
 #include <QEventLoop>
 #include <QMenu>
 #include <QMenuBar>
+#include <QStatusBar>
 #include <QWindow>
 
 #include <array>
@@ -47,6 +48,7 @@ GameWindow::GameWindow(frmMain& main, Hands& player, DesktopPlatform& services,
                         if (openDialogs > 0) platform.Quit();
                     }),
       status(*this),
+      progress(statusBar()),
       canvas(main, options.Scale) {
     setCentralWidget(&canvas);
     BuildMenu();
@@ -76,7 +78,9 @@ void GameWindow::closeEvent(QCloseEvent* event) {
 
 void GameWindow::StartGame() {
     started = true;
+    progress.Begin();
     Deliver([this] { hands.Start(game); });
+    progress.End();
 }
 
 void GameWindow::Deliver(const std::function<void()>& event) {
@@ -223,6 +227,7 @@ void GameWindow::ConnectDialogs() {
     platform.PlayerOnScreen = [this] { return canvas.RoundThePlayer(); };
     platform.BeforeDialog = [this] {
         ++openDialogs;
+        progress.End();
         Sync();
         TellShown();
         AwaitFocus();
@@ -230,7 +235,9 @@ void GameWindow::ConnectDialogs() {
     platform.AfterDialog = [this] {
         --openDialogs;
         TakeOuterSize();
+        progress.Begin();
     };
+    platform.LoadProgress = [this](double share) { progress.Tell(share); };
 }
 
 void GameWindow::Leave(bool away) {

@@ -6,6 +6,7 @@
 #include "desktop/BoardCanvas.h"
 #include "desktop/CloseRequests.h"
 #include "desktop/DesktopPlatform.h"
+#include "desktop/LoadProgress.h"
 #include "desktop/StatusLine.h"
 #include "windows/hands/Hands.h"
 
@@ -71,6 +72,7 @@ class GameWindow final : public QMainWindow {
     QElapsedTimer sinceReturn; ///< not valid before the first return
     CloseRequests closeRequests;
     StatusLine status;
+    LoadProgress progress;
     /// Last, so that it goes first: it loses the focus as the window goes, and tells the window so.
     BoardCanvas canvas;
 };

@@ -23,6 +23,10 @@ FieldInput::FieldInput(std::string bytes) : text(std::move(bytes)) {
     if (text.starts_with(ByteOrderMark)) position = lineStart = ByteOrderMark.size();
 }
 
+double FieldInput::Share() const {
+    return text.empty() ? 1 : static_cast<double>(position) / static_cast<double>(text.size());
+}
+
 Record FieldInput::Next() {
     while (!AtEnd() && text[position] == ' ') ++position;
     Record record{"", line, static_cast<int>(position - lineStart) + 1};

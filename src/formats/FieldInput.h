@@ -25,6 +25,9 @@ class FieldInput {
     /// True when no record is left. Behind a line end at the file's end there is none.
     bool AtEnd() const { return position >= text.size(); }
 
+    /// How much has been read, from 0 to 1.
+    double Share() const;
+
     /// The next record, without the blanks before it. One in double quotes runs to the next quote,
     /// over commas and line ends; what stands behind that up to a comma or line end is dropped. A
     /// record with an empty text when none is left.

@@ -7,8 +7,16 @@
 
 namespace tumbledeep {
 
+namespace {
+
+/// Some milliseconds of work.
+constexpr std::int64_t RecordsBetweenNews = 10'000;
+
+} // namespace
+
 void frmMain::LoadNewMap(FieldInput map) {
-    while (!map.AtEnd()) {
+    for (std::int64_t records = 1; !map.AtEnd(); ++records) {
+        if (records % RecordsBetweenNews == 0) Services.Loading(map.Share());
         const MapLine line = ReadMapLine(map.Next());
         // A title in the middle of a file stops the loading there until it is answered.
         if (line.What == MapLine::Is::Title) Services.MsgBox(line.Text, MsgBoxStyle::Ok);

@@ -36,6 +36,7 @@ class Recorder final : public Hands, public Platform {
     std::string Command() const override { return inner.Command(); }
     /// The same number each time.
     std::uint32_t Seed() override;
+    void Loading(double share) override { inner.Loading(share); }
     std::string OpenForInput(const std::string& path) override;
     std::string GetPrivateProfileString(std::string_view section, std::string_view key,
                                         const std::string& path) override;

@@ -41,6 +41,7 @@ class Replay final : public Hands, public Platform {
     std::string AppPath() const override { return inner.AppPath(); }
     std::string Command() const override { return map; }
     std::uint32_t Seed() override;
+    void Loading(double share) override { inner.Loading(share); }
     std::string OpenForInput(const std::string& path) override;
     std::string GetPrivateProfileString(std::string_view section, std::string_view key,
                                         const std::string& path) override;
