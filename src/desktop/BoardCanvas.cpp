@@ -42,7 +42,7 @@ ScanCode CodeOf(const QKeyEvent& event) {
 
 } // namespace
 
-BoardCanvas::BoardCanvas(frmMain& main, std::optional<int> scale) : game(main), fixedScale(scale) {
+BoardCanvas::BoardCanvas(frmMain& main) : game(main) {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_InputMethodEnabled);
@@ -50,8 +50,10 @@ BoardCanvas::BoardCanvas(frmMain& main, std::optional<int> scale) : game(main), 
     arrows.Changed = [this](Heading arrow, bool down) { ArrowKey(arrow, down); };
 }
 
-int BoardCanvas::Scale() const {
-    return fixedScale ? *fixedScale : std::max(1, qRound(devicePixelRatioF()));
+void BoardCanvas::SetScale(int wanted) {
+    scale = wanted;
+    images.SetScale(scale);
+    update();
 }
 
 QRect BoardCanvas::DeviceRect() const {
@@ -76,8 +78,6 @@ QRect BoardCanvas::RoundThePlayer() const {
 }
 
 void BoardCanvas::Sync() {
-    const int scale = Scale();
-    images.SetScale(scale);
     const QRect boardRect = BoardRect(game.ActiveChild, scale);
     const QPoint corner = boardRect.topLeft();
     ChangedTiles changes((DeviceRect() & boardRect).translated(-corner), scale);
@@ -112,8 +112,6 @@ void BoardCanvas::UpdateDevice(const QRegion& device) {
 }
 
 void BoardCanvas::paintEvent(QPaintEvent* event) {
-    // A window that has moved to another screen is painted before anything else happens.
-    images.SetScale(Scale());
     QPainter painter(this);
     // Undo the scaling and a broken offset of the widget: one unit becomes one device pixel.
     const QTransform device = painter.deviceTransform();

@@ -18,8 +18,7 @@ namespace tumbledeep {
 
 class BoardCanvas final : public QWidget {
   public:
-    /// `fixedScale`, in whole device pixels to a pixel of the game, overrides the screen's own.
-    BoardCanvas(frmMain& game, std::optional<int> fixedScale);
+    explicit BoardCanvas(frmMain& game);
 
     // What the player does. The window sets all of these before anything happens.
 
@@ -50,7 +49,8 @@ class BoardCanvas final : public QWidget {
     /// From here on the board follows the mouse, until the button is released.
     void BeginDrag() { dragging = true; }
     /// Whole device pixels to a pixel of the game.
-    int Scale() const;
+    int Scale() const { return scale; }
+    void SetScale(int wanted);
     /// The player and the cells round him, in the screen's coordinates; empty if out of sight.
     QRect RoundThePlayer() const;
 
@@ -80,7 +80,7 @@ class BoardCanvas final : public QWidget {
     void PaintBoard(QPainter& painter, const QRect& part, QPoint corner) const;
 
     frmMain& game;
-    std::optional<int> fixedScale;
+    int scale = 1;
     SpriteImages images;
     BoardLook look;
     HeldArrows arrows;

@@ -70,11 +70,16 @@ void DesktopPlatform::Quit() {
 
 void DesktopPlatform::AwaitSuccessor() { successor.AwaitShown(LongestGap); }
 
-template <class Dialog> int DesktopPlatform::Show(Dialog& dialog) {
+void DesktopPlatform::Carry(std::optional<int> scale, bool fullScreen) {
+    options.Scale = scale;
+    options.FullScreen = fullScreen;
+}
+
+int DesktopPlatform::Show(QDialog& dialog) { return Exec(dialog, Patience ? Patience() : 0); }
+
+int DesktopPlatform::Exec(QDialog& dialog, int patience) {
     BeforeDialog();
-    if (const int patience = Patience ? Patience() : 0; patience > 0) {
-        QTimer::singleShot(patience, &dialog, [&dialog] { dialog.reject(); });
-    }
+    if (patience > 0) QTimer::singleShot(patience, &dialog, [&dialog] { dialog.reject(); });
     const int result = quitting ? 0 : dialog.exec();
     AfterDialog();
     if (quitting) End();

@@ -13,6 +13,7 @@
 #include <functional>
 #include <string>
 
+class QDialog;
 class QWidget;
 
 namespace tumbledeep {
@@ -45,6 +46,11 @@ class DesktopPlatform final : public Platform {
     /// The desktop wants the program to end: a dialog that is open returns no answer, the process
     /// ends instead.
     void Quit();
+    /// Runs a dialog with the clock held round it, and rejects it after so many milliseconds; 0 for
+    /// never. Returns its result. Does not return if the desktop wants the program to end.
+    int Exec(QDialog& dialog, int patience);
+    /// How the player has the game shown, for the next process.
+    void Carry(std::optional<int> scale, bool fullScreen);
     /// Waits until the process that was started, if any, is on the screen.
     void AwaitSuccessor();
 
@@ -69,8 +75,8 @@ class DesktopPlatform final : public Platform {
     void Ending() override {}
 
   private:
-    /// Runs a dialog with the clock held round it.
-    template <class Dialog> int Show(Dialog& dialog);
+    /// Runs a dialog of the game's, which does not wait longer than Patience.
+    int Show(QDialog& dialog);
     /// The words for a successor that is to show the game as this process does.
     std::vector<std::string> WordsForSuccessor() const;
 

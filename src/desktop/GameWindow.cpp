@@ -2,15 +2,20 @@
 // bar, dialogs, and what the focus has to do with them.
 #include "desktop/GameWindow.h"
 
+#include "desktop/Legend.h"
 #include "desktop/MapPlace.h"
+#include "desktop/ScreenScale.h"
 #include "formats/Script.h"
+#include "pictures/DevicePixels.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
+#include <QStyle>
 #include <QWindow>
 
 #include <array>
@@ -31,6 +36,8 @@ constexpr int FocusPatience = 500;
 constexpr int SamePress = 150;
 /// In bytes: a little more than a file's name can have.
 constexpr std::size_t LongestCaption = 300;
+/// In logical pixels: a first window is not smaller where the screen has room.
+constexpr QSize LeastFirstSize{1024, 768};
 /// The exit status for a script that does not fit the dialog it meets.
 constexpr int WrongScript = 2;
 
@@ -42,6 +49,7 @@ GameWindow::GameWindow(frmMain& main, Hands& player, DesktopPlatform& services,
       hands(player),
       platform(services),
       periods(options.Speed.value_or(1)),
+      chosenScale(options.Scale),
       shownPipe(options.ShownPipe.value_or(-1)),
       closeRequests(winId(),
                     [this] {
@@ -49,9 +57,12 @@ GameWindow::GameWindow(frmMain& main, Hands& player, DesktopPlatform& services,
                     }),
       status(*this),
       progress(statusBar()),
-      canvas(main, options.Scale) {
+      canvas(main) {
     setCentralWidget(&canvas);
     BuildMenu();
+    BuildShortcuts();
+    canvas.SetScale(AskedScale());
+    connect(windowHandle(), &QWindow::screenChanged, this, [this] { Rescale(AskedScale()); });
     ConnectCanvas();
     ConnectDialogs();
     canvas.setFocus();
@@ -74,6 +85,74 @@ GameWindow::GameWindow(frmMain& main, Hands& player, DesktopPlatform& services,
 void GameWindow::closeEvent(QCloseEvent* event) {
     platform.Quit();
     event->accept();
+}
+
+void GameWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::WindowStateChange) platform.Carry(chosenScale, isFullScreen());
+    QMainWindow::changeEvent(event);
+}
+
+void GameWindow::Appear(const Options& options) {
+    const QSize room = screen()->availableSize();
+    const QSizeF cells = QSizeF(RoomForCells(canvas.Scale())) / devicePixelRatioF();
+    const QSize wanted = cells.toSize() + OwnParts();
+    const bool isSuccessor = options.ShownPipe.has_value();
+    resize(wanted.expandedTo(LeastFirstSize.boundedTo(room * 0.9)).boundedTo(room));
+    const bool isFull = wanted.width() > room.width() || wanted.height() > room.height();
+    setWindowState((isSuccessor || isFull ? Qt::WindowMaximized : Qt::WindowNoState) |
+                   (options.FullScreen ? Qt::WindowFullScreen : Qt::WindowNoState));
+    show();
+    if (!isSuccessor) return;
+    raise();
+    activateWindow();
+}
+
+QSize GameWindow::OwnParts() const {
+    const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    return {0, title + menuBar()->sizeHint().height() + statusBar()->sizeHint().height()};
+}
+
+int GameWindow::AskedScale() const {
+    if (chosenScale) return *chosenScale;
+    const qreal ratio = devicePixelRatioF();
+    const QSize room = screen()->availableSize() - OwnParts();
+    return BestScale((QSizeF(room) * ratio).toSize(), ratio);
+}
+
+void GameWindow::ChooseScale(std::optional<int> scale) {
+    if (scale && (*scale < 1 || *scale > LargestScale)) return;
+    chosenScale = scale;
+    platform.Carry(chosenScale, isFullScreen());
+    Rescale(AskedScale());
+}
+
+/// The board is moved as the player could drag it, so that the player stays in sight.
+void GameWindow::Rescale(int scale) {
+    if (scale == canvas.Scale() || ended) return;
+    TakeOuterSize();
+    const Window before = game.Form;
+    canvas.SetScale(scale);
+    TakeOuterSize();
+    const frmDocument& board = game.ActiveChild;
+    const Window& form = board.Form;
+    constexpr float raised = 720;
+    PlayerAct drag{Do::Drag};
+    drag.X =
+        PlaceInParent(form.Left, form.Width, board.You.Left, before.Width, game.Form.Width, 0) -
+        form.Left;
+    drag.Y = PlaceInParent(form.Top, form.Height, board.You.Top, before.Height, game.Form.Height,
+                           raised) -
+             form.Top;
+    if (form.Visible) game.Take(drag);
+    Sync();
+}
+
+void GameWindow::ShowLegend() {
+    if (!started || openDialogs > 0) return;
+    Deliver([this] {
+        Legend legend(this, canvas.Scale());
+        platform.Exec(legend, 0);
+    });
 }
 
 void GameWindow::StartGame() {
@@ -183,6 +262,21 @@ void GameWindow::BuildMenu() {
         }
         actions.push_back(action);
     }
+}
+
+void GameWindow::BuildShortcuts() {
+    const auto add = [this](const QList<QKeySequence>& keys, const std::function<void()>& does) {
+        auto* const action = new QAction(this);
+        action->setShortcuts(keys);
+        connect(action, &QAction::triggered, this, does);
+        addAction(action);
+    };
+    add({Qt::Key_F1}, [this] { ShowLegend(); });
+    add({Qt::Key_F11}, [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
+    add({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal},
+        [this] { ChooseScale(canvas.Scale() + 1); });
+    add({Qt::CTRL | Qt::Key_Minus}, [this] { ChooseScale(canvas.Scale() - 1); });
+    add({Qt::CTRL | Qt::Key_0}, [this] { ChooseScale(std::nullopt); });
 }
 
 void GameWindow::ConnectCanvas() {

@@ -15,6 +15,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,8 +29,13 @@ class GameWindow final : public QMainWindow {
     /// it.
     GameWindow(frmMain& game, Hands& hands, DesktopPlatform& platform, const Options& options);
 
+    /// Shows the window as the options and the screen ask for: a first one with room for most maps,
+    /// a successor maximised and in front.
+    void Appear(const Options& options);
+
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void StartGame();
@@ -44,6 +50,14 @@ class GameWindow final : public QMainWindow {
     bool IsPaused() const;
     void TakeOuterSize();
     void BuildMenu();
+    void BuildShortcuts();
+    /// The player's choice, or what the screen asks for.
+    int AskedScale() const;
+    /// What menu, status bar and frame take, in logical pixels.
+    QSize OwnParts() const;
+    void Rescale(int scale);
+    void ChooseScale(std::optional<int> scale);
+    void ShowLegend();
     void ConnectCanvas();
     void ConnectDialogs();
     /// The player goes to another program, or comes back from one.
@@ -64,6 +78,7 @@ class GameWindow final : public QMainWindow {
     bool placeIsOld = false;
     QTimer timer;
     int openDialogs = 0;
+    std::optional<int> chosenScale;
     int shownPipe; ///< where a predecessor waits to be told that this window is up; then -1
     bool started = false;
     bool ended = false;

@@ -35,6 +35,7 @@ std::vector<std::string> Options::ForSuccessor() const {
     std::vector<std::string> words;
     if (Directory) words.insert(words.end(), {"--dir", Directory->string()});
     if (Scale) words.insert(words.end(), {"--scale", std::to_string(*Scale)});
+    if (FullScreen) words.emplace_back("--full-screen");
     if (Record) words.insert(words.end(), {"--record", NextRecording(*Record).string()});
     return words;
 }
@@ -53,6 +54,8 @@ Options ReadOptions(std::span<char* const> words) {
             options.Help = true;
         } else if (word == "--version") {
             options.Version = true;
+        } else if (word == "--full-screen") {
+            options.FullScreen = true;
         } else if (word == "--dir") {
             options.Directory = fs::absolute(value()).lexically_normal();
             std::error_code error;
@@ -108,7 +111,8 @@ fs::path NextRecording(const fs::path& file) {
 }
 
 const char* UsageText() {
-    return "usage: tumbledeep [--dir DIR] [--scale N] [--record FILE] [MAP | LIST]\n"
+    return "usage: tumbledeep [--dir DIR] [--scale N] [--full-screen] [--record FILE]\n"
+           "                  [MAP | LIST]\n"
            "       tumbledeep [--dir DIR] [--scale N] --replay FILE [--speed 1 | 2 | 4] [MAP]\n"
            "\n"
            "  MAP         a map to play, such as \"First steps.TBM\"\n"
@@ -116,6 +120,7 @@ const char* UsageText() {
            "  --dir DIR   where maps, lists and Tumbledeep.ini lie (default: beside the program\n"
            "              if it was unpacked, ~/.local/share/tumbledeep if it was installed)\n"
            "  --scale N   device pixels to a pixel of the game, 1 to 16 (default: by the screen)\n"
+           "  --full-screen  the whole screen, as F11 gives it\n"
            "  --record FILE  writes what you do as a script for --replay and tumbledeep-trace, "
            "the\n"
            "              maps that follow into FILE-2 and so on; FILE must not exist\n"
@@ -124,7 +129,8 @@ const char* UsageText() {
            "  --help      this text\n"
            "  --version   the program's version\n"
            "\n"
-           "Keys: w a s d or the arrow keys to walk, dig and push, p to pause.\n"
+           "Keys: w a s d or the arrow keys to walk, dig and push, p to pause; F1 shows what is "
+           "what.\n"
            "Maps of your own are checked and tried by tumbledeep-map; docs/MAPS.md tells how.\n";
 }
 

@@ -16,6 +16,7 @@ namespace tumbledeep {
 struct Options {
     bool Help = false;
     bool Version = false;
+    bool FullScreen = false;
     std::optional<std::filesystem::path> Directory; ///< of maps, lists and settings
     std::optional<int> Scale;                       ///< device pixels to a game's pixel, 1 to 16
     std::optional<std::filesystem::path> Record;    ///< the script that is written

@@ -15,7 +15,6 @@
 
 #include <QApplication>
 #include <QPixmap>
-#include <QScreen>
 
 #include <cstdlib>
 #include <iostream>
@@ -29,7 +28,6 @@ namespace {
 
 constexpr int WrongCall = 2;
 constexpr int NoScreen = 1;
-constexpr QSize FirstSize{1024, 768};
 
 constexpr const char* NoScreenText =
     "tumbledeep: there is no screen here; start it from a desktop, "
@@ -51,16 +49,7 @@ bool HasScreen() {
 std::unique_ptr<GameWindow> OpenWindow(frmMain& game, Hands& hands, DesktopPlatform& platform,
                                        const Options& options) {
     auto window = std::make_unique<GameWindow>(game, hands, platform, options);
-    const bool isSuccessor = options.ShownPipe.has_value();
-    if (isSuccessor) {
-        window->showMaximized();
-        window->raise();
-        window->activateWindow();
-    } else {
-        const QSize room = window->screen()->availableSize();
-        window->resize(FirstSize.boundedTo(room * 0.9));
-        window->show();
-    }
+    window->Appear(options);
     return window;
 }
 

@@ -29,3 +29,22 @@ class Scale(screen.GameTest):
                 self.begin(screen.ROOM, *words, QT_SCALE_FACTOR=str(factor))
                 self.check(pixel)
                 self.kill_games()
+
+    def test_the_player_s_own_choice_and_the_full_screen_go_on_with_the_next_process(self):
+        self.begin(screen.ROOM)
+        self.screen.key("ctrl+plus")
+        self.check(2)
+        first = self.pids()
+        self.screen.key("F11", "alt+f", "r")
+        self.screen.answer("Return")
+        self.wait_for_successor(first)
+        self.check(2)
+        self.assertIn("--scale 2 --full-screen", self.screen.run("pgrep", "-fa", str(self.dir)))
+
+
+class LargeScreen(screen.GameTest):
+    screen_size = "2560x1440"
+
+    def test_a_large_screen_is_used(self):
+        self.begin(screen.ROOM)
+        screen.wait_until("a pixel of two by two", lambda: self.board(length=20 * screen.CELL + 2))
