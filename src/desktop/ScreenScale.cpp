@@ -11,8 +11,8 @@ namespace tumbledeep {
 
 namespace {
 
-constexpr int Across = 40;
-constexpr int Down = 28;
+constexpr int CellsAcross = 40;
+constexpr int CellsDown = 28;
 /// In pixels of the game; a sprite is a pixel larger, so that neighbours overlap.
 constexpr int CellPitch = Bitmap::Size - 1;
 /// What the parent's own parts take of its outer size, as the game's view reckons.
@@ -21,7 +21,7 @@ constexpr float ParentFrame = 1080;
 } // namespace
 
 QSize RoomForCells(int scale) {
-    return {(Across * CellPitch + 1) * scale, (Down * CellPitch + 1) * scale};
+    return {(CellsAcross * CellPitch + 1) * scale, (CellsDown * CellPitch + 1) * scale};
 }
 
 int BestScale(QSize deviceRoom, double ratio) {

@@ -71,8 +71,8 @@ class Platform {
     /// The bytes of a text file, for field-wise input. Throws Failure: 53 when there is no such
     /// file, 75 when it cannot be read. A name in another case than the file's is found too.
     virtual std::string OpenForInput(const std::string& path) = 0;
-    /// A map is being loaded, and a share from 0 to 1 has been read. Comes now and then; nothing may
-    /// be delivered to the game meanwhile.
+    /// A map is being loaded, and a share from 0 to 1 has been read. Comes now and then; nothing
+    /// may be delivered to the game meanwhile.
     virtual void Loading(double /*share*/) {}
     /// The value of a key in a settings file, "" when there is none. Names are case-blind.
     virtual std::string GetPrivateProfileString(std::string_view section, std::string_view key,
