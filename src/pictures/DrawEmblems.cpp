@@ -14,12 +14,13 @@ Bitmap Filled(Colour colour) {
     return bitmap;
 }
 
-Bitmap RimmedDisc(Colour fill, Colour rim) {
+/// `width` is the rim's, in pixels.
+Bitmap RimmedDisc(Colour fill, Colour rim, float width) {
     Bitmap bitmap;
     for (int y = 0; y < Bitmap::Size; ++y) {
         for (int x = 0; x < Bitmap::Size; ++x) {
             if (!InFullDisc(x, y)) continue;
-            bitmap.At(x, y) = DistanceFromMiddle(x, y) > FullRadius - 1.0F ? rim : fill;
+            bitmap.At(x, y) = DistanceFromMiddle(x, y) > FullRadius - width ? rim : fill;
         }
     }
     return bitmap;
@@ -34,8 +35,9 @@ Bitmap DrawAppIcon() {
 
 } // namespace
 
+/// The player's rim is firm: no gem has one, so that an eye finds it at once.
 const Bitmap& ShapeBitmap(Shape shape) {
-    static const std::array<Bitmap, 3> shapes{RimmedDisc({255, 192, 192}, Black),
+    static const std::array<Bitmap, 3> shapes{RimmedDisc({255, 192, 192}, Black, 3.0F),
                                               Filled({192, 192, 192}), Filled(Black)};
     return shapes[static_cast<std::size_t>(shape)];
 }
@@ -43,7 +45,7 @@ const Bitmap& ShapeBitmap(Shape shape) {
 bool ShapeCovers(Shape shape, int x, int y) { return shape != Shape::You || InFullDisc(x, y); }
 
 const Bitmap& StatusDisc() {
-    static const Bitmap disc = RimmedDisc({255, 0, 0}, Black);
+    static const Bitmap disc = RimmedDisc({255, 0, 0}, Black, 1.0F);
     return disc;
 }
 

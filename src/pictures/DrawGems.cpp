@@ -1,8 +1,9 @@
-// The gems: three diamonds that stand on their point, drawn by facets, and three discs like drops.
-// The icon takes its diamond from here too.
+// The gems: three diamonds that stand on their point, and three discs that are stones seen from
+// above. The icon takes its diamond from here too.
 #include "pictures/Canvas.h"
 #include "pictures/Draw.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -27,25 +28,70 @@ constexpr std::array<Colour, GemTypePicCount - DiamondCount> DropRims{
 
 constexpr Colour DropEdge{128, 128, 128};
 
-/// Where the bevel at the edge ends, and where the colour is at its deepest but for the middle.
-constexpr float BevelDepth = 0.11F;
-constexpr float DeepDepth = 0.55F;
+/// A share of the way from the edge to the middle of a diamond, and the colour that ends there. The
+/// steps are hard, as cuts are.
+constexpr float BevelDepth = 0.13F;
+constexpr float CrownDepth = 0.46F;
+constexpr float PavilionDepth = 0.74F;
 
-/// From the edge, at 0, to the middle, at 1: a pale bevel, then full, deep and black in turn.
 Colour CutColour(const Cut& cut, float depth) {
     if (depth < BevelDepth) return cut.Pale;
-    if (depth < DeepDepth) {
-        return Blend(cut.Full, cut.Deep, (depth - BevelDepth) / (DeepDepth - BevelDepth));
-    }
-    return Blend(cut.Deep, Black, (depth - DeepDepth) / (0.95F - DeepDepth));
+    if (depth < CrownDepth) return cut.Full;
+    return depth < PavilionDepth ? cut.Deep : Black;
 }
 
-/// The four facets catch the light from the upper left each in its own measure, the less the
-/// nearer they come to the dark middle.
-Colour OnFacet(Colour colour, float depth, int across, int down) {
-    if (across <= 0 && down <= 0) return Blend(colour, White, 0.4F * (1.0F - depth));
-    if (across <= 0) return Lit(colour, 0.92F);
-    return down <= 0 ? colour : Lit(colour, 0.75F);
+/// The four facets catch the light from the upper left, each in its own measure.
+Colour OnFacet(Colour colour, int across, int down) {
+    if (colour == Black) return colour;
+    if (across <= 0 && down <= 0) return Blend(colour, White, 0.32F);
+    if (across <= 0) return Lit(colour, 0.88F);
+    return down <= 0 ? colour : Lit(colour, 0.66F);
+}
+
+/// A spark on the upper left, where the light comes from; `size` is its arms' length in pixels.
+void StampGlint(Bitmap& bitmap, int x, int y, int size) {
+    for (int arm = -size; arm <= size; ++arm) {
+        bitmap.At(x + arm, y) = White;
+        bitmap.At(x, y + arm) = White;
+    }
+}
+
+/// The disc is a stone seen from above: a table of eight sides, and eight facets round it.
+constexpr int Sides = 8;
+constexpr float TableReach = 5.2F;
+constexpr float TableEdge = 1.1F;
+constexpr float FullTurn = 6.2831853F;
+
+/// How far a place is from the middle, measured across the nearest of the table's sides.
+float AcrossSide(float x, float y, float& facing) {
+    float reach = 0;
+    for (int side = 0; side < Sides; ++side) {
+        const float angle = FullTurn * static_cast<float>(side) / Sides;
+        const float across = x * std::cos(angle) + y * std::sin(angle);
+        if (across <= reach) continue;
+        reach = across;
+        facing = angle;
+    }
+    return reach;
+}
+
+/// A facet that faces the light, which comes from the upper left, is bright.
+float FacetLight(float facing) {
+    constexpr float fromUpperLeft = FullTurn * 0.625F;
+    return 0.92F + 0.2F * std::cos(facing - fromUpperLeft);
+}
+
+Colour StoneFromAbove(Colour rim, float x, float y) {
+    const float distance = std::sqrt(x * x + y * y);
+    float facing = 0;
+    const float reach = AcrossSide(x, y, facing);
+    const Colour body = Blend(White, rim, distance / (FullRadius - 2.0F));
+    if (reach < TableReach) return Blend(body, rim, x + y > 0 ? 0.3F : 0.0F);
+    if (reach < TableReach + TableEdge) return Lit(rim, 0.72F);
+    // The line between two facets runs from a corner of the table to the rim.
+    const float between = std::sqrt(std::max(0.0F, distance * distance - reach * reach));
+    const bool onLine = reach * std::tan(FullTurn / (2 * Sides)) - between < 0.55F;
+    return Lit(Blend(body, rim, 0.55F), FacetLight(facing) * (onLine ? 0.78F : 1.0F));
 }
 
 Bitmap DrawDrop(Colour rim) {
@@ -53,11 +99,13 @@ Bitmap DrawDrop(Colour rim) {
     for (int y = 0; y < Bitmap::Size; ++y) {
         for (int x = 0; x < Bitmap::Size; ++x) {
             if (!InFullDisc(x, y)) continue;
-            const float distance = DistanceFromMiddle(x, y);
-            const Colour body = Blend(White, rim, distance / (FullRadius - 1.0F));
-            bitmap.At(x, y) = Blend(body, DropEdge, distance - FullRadius + 1.5F);
+            const float edge = DistanceFromMiddle(x, y) - FullRadius + 1.6F;
+            bitmap.At(x, y) = Blend(
+                StoneFromAbove(rim, static_cast<float>(x - Middle), static_cast<float>(y - Middle)),
+                DropEdge, edge);
         }
     }
+    StampGlint(bitmap, 8, 7, 2);
     return bitmap;
 }
 
@@ -73,9 +121,10 @@ void StampDiamond(Bitmap& bitmap, int member, int halfHeight) {
                                 std::abs(static_cast<float>(down)) / static_cast<float>(halfHeight);
             if (depth < 0) continue;
             const Colour colour = CutColour(Diamonds[static_cast<std::size_t>(member)], depth);
-            bitmap.At(x, y) = OnFacet(colour, depth, across, down);
+            bitmap.At(x, y) = OnFacet(colour, across, down);
         }
     }
+    StampGlint(bitmap, Middle - halfHeight / 4, Middle - halfHeight / 3, 1);
 }
 
 Bitmap DrawGem(int member) {

@@ -28,7 +28,7 @@ constexpr std::array<Stone, 7> Stones{{
 }};
 
 /// About 1 on the whole: more towards the light, less away from it.
-float LightOn(int x, int y) { return 1.0F + static_cast<float>(2 * Middle - x - y) * 0.022F; }
+float LightOn(int x, int y) { return 1.0F + static_cast<float>(2 * Middle - x - y) * 0.027F; }
 
 /// Blots within blots, in a few steps, so that they look like stone and not like smoke.
 float Mottling(const Stone& stone, int x, int y, unsigned seed) {
