@@ -61,7 +61,8 @@ DesktopPlatform::DesktopPlatform(const Options& given)
     : options(given),
       program(ProgramFile()),
       folders(FoldersOf(program, given.Directory)),
-      unsaved(given.Unsaved) {}
+      unsaved(given.Unsaved),
+      lost(given.Elsewhere) {}
 
 void DesktopPlatform::Quit() {
     quitting = true;
@@ -88,7 +89,7 @@ int DesktopPlatform::Exec(QDialog& dialog, int patience) {
 
 int DesktopPlatform::MsgBox(const std::string& text, int style) {
     MessageBox box(DialogParent, Title, text, style);
-    if (PlayerOnScreen) box.StandClearOf(PlayerOnScreen());
+    if (PlayerOnScreen) StandClearOf(box, PlayerOnScreen());
     const int answer = Show(box);
     if (!MsgBoxStyle::Asks(style)) return MsgBoxAnswer::Ok;
     return answer == MsgBoxAnswer::Yes ? answer : MsgBoxAnswer::No;
@@ -98,6 +99,7 @@ std::string DesktopPlatform::InputBox(const std::string& prompt) {
     QInputDialog dialog(DialogParent);
     dialog.setWindowTitle(Title);
     dialog.setLabelText(QString::fromStdString(prompt));
+    if (PlayerOnScreen) StandClearOf(dialog, PlayerOnScreen());
     return Show(dialog) == QDialog::Accepted ? dialog.textValue().toStdString() : "";
 }
 
@@ -114,6 +116,12 @@ std::string DesktopPlatform::ShowOpen(const OpenDialog& dialog) {
     }
     QFileDialog open(DialogParent, QString::fromStdString(dialog.Title), folder, filter);
     open.setFileMode(QFileDialog::ExistingFile);
+    // A map from elsewhere is not found again by the next process, which then asks for one.
+    if (lost && fs::is_regular_file(*lost)) {
+        places << QUrl::fromLocalFile(TextOf(lost->parent_path()));
+        open.setDirectory(TextOf(lost->parent_path()));
+        open.selectFile(TextOf(*lost));
+    }
     open.setSidebarUrls(places);
     if (Show(open) != QDialog::Accepted || open.selectedFiles().isEmpty()) return "";
     std::string chosen = ProgramPath(open.selectedFiles().constFirst().toStdString());
@@ -161,7 +169,14 @@ std::uint32_t DesktopPlatform::Seed() {
 }
 
 std::string DesktopPlatform::OpenForInput(const std::string& path) {
-    return ReadFile(folders.Find(HostPath(path)));
+    const fs::path file = HostPath(path);
+    std::string bytes = ReadFile(folders.Find(file));
+    if (IsMapName(path)) {
+        lost.reset();
+        const bool isElsewhere = file.parent_path() != folders.Own.lexically_normal();
+        options.Elsewhere = isElsewhere ? std::optional(file) : std::nullopt;
+    }
+    return bytes;
 }
 
 std::string DesktopPlatform::GetPrivateProfileString(std::string_view section, std::string_view key,

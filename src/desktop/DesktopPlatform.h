@@ -87,6 +87,8 @@ class DesktopPlatform final : public Platform {
     /// The text of the settings since a write failed. It stands in for the file until the player
     /// quits, so that a folder that can't be written is played like any other.
     std::optional<std::string> unsaved;
+    /// The map that a predecessor played from elsewhere, until this process has found one.
+    std::optional<std::filesystem::path> lost;
     bool quitting = false;
 };
 

@@ -11,7 +11,10 @@ namespace tumbledeep {
 
 class LoadProgress {
   public:
+    /// Puts its bar over a status bar, which must outlive it.
     explicit LoadProgress(QStatusBar* bar);
+    LoadProgress(const LoadProgress&) = delete;
+    LoadProgress& operator=(const LoadProgress&) = delete;
 
     /// A load, or a part of one behind a dialog, begins.
     void Begin() { since.start(); }

@@ -130,14 +130,14 @@ bool MessageBox::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-void MessageBox::StandClearOf(const QRect& part) {
-    const QWidget* const window = parentWidget()->window();
+void StandClearOf(QDialog& dialog, const QRect& part) {
+    const QWidget* const window = dialog.parentWidget()->window();
     if (part.isEmpty() || !window->isVisible()) return;
-    adjustSize();
+    dialog.adjustSize();
     // Its own frame is not there yet; the parent's is of the same kind.
     const QSize frame = window->frameGeometry().size() - window->geometry().size();
-    move(CornerClearOf(part, size() + frame, window->frameGeometry(),
-                       window->screen()->availableGeometry()));
+    dialog.move(CornerClearOf(part, dialog.size() + frame, window->frameGeometry(),
+                              window->screen()->availableGeometry()));
 }
 
 QPoint CornerClearOf(const QRect& part, QSize size, const QRect& window, const QRect& screen) {

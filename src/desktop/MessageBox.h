@@ -19,10 +19,6 @@ class MessageBox final : public QDialog {
     /// closed. Enter presses the button that has the keyboard, at first Yes or OK; Esc closes.
     MessageBox(QWidget* parent, const QString& title, const std::string& text, int style);
 
-    /// Before it is shown: moves it to where it leaves a part of the screen free, if it can. An
-    /// empty one leaves it over the middle of its parent.
-    void StandClearOf(const QRect& part);
-
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -31,6 +27,10 @@ class MessageBox final : public QDialog {
 
     QPlainTextEdit* view = nullptr; ///< for a long text alone
 };
+
+/// Before a dialog is shown: moves it to where it leaves a part of the screen free, if it can. An
+/// empty one leaves it over the middle of its parent.
+void StandClearOf(QDialog& dialog, const QRect& part);
 
 /// The upper left corner for a box of that size that keeps off a part of the screen: over the
 /// middle of the window if that is free, else right below the part, above it or beside it,

@@ -35,6 +35,7 @@ std::vector<std::string> Options::ForSuccessor() const {
     std::vector<std::string> words;
     if (Directory) words.insert(words.end(), {"--dir", Directory->string()});
     if (Scale) words.insert(words.end(), {"--scale", std::to_string(*Scale)});
+    if (Elsewhere) words.insert(words.end(), {"--elsewhere", Elsewhere->string()});
     if (FullScreen) words.emplace_back("--full-screen");
     if (Record) words.insert(words.end(), {"--record", NextRecording(*Record).string()});
     return words;
@@ -74,6 +75,8 @@ Options ReadOptions(std::span<char* const> words) {
             if (*options.Speed == 3) throw std::runtime_error("--speed is 1, 2 or 4");
         } else if (word == "--unsaved-settings") {
             options.Unsaved = std::string(value());
+        } else if (word == "--elsewhere") {
+            options.Elsewhere = fs::path(value());
         } else if (word == "--shown-pipe") {
             options.ShownPipe = WholeFrom(word, value(), 0, 1 << 20);
         } else if (word.starts_with("--")) {

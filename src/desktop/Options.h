@@ -23,8 +23,10 @@ struct Options {
     std::optional<std::filesystem::path> Replay;    ///< the script that is played
     std::optional<int> Speed;                       ///< of the replay, 1, 2 or 4; none for 1
     std::optional<std::string> Unsaved; ///< settings of a predecessor that could not write them
-    std::optional<int> ShownPipe;       ///< file descriptor on which a predecessor waits to be told
-    std::string Argument;               ///< the game's command line text, as the player wrote it
+    std::optional<std::filesystem::path>
+        Elsewhere;                ///< a map that a predecessor played, from another folder
+    std::optional<int> ShownPipe; ///< file descriptor on which a predecessor waits to be told
+    std::string Argument;         ///< the game's command line text, as the player wrote it
 
     /// The words that make a successor show the game in the same way.
     std::vector<std::string> ForSuccessor() const;

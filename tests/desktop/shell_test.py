@@ -39,6 +39,12 @@ class Shell(screen.GameTest):
         self.start("N.TBM", cwd=elsewhere)
         self.wait_for_you(1, 1)
         self.assertEqual("N.TBM", self.setting("LOAD"))
+        # The next process does not find it, and asks with that very map chosen.
+        self.screen.key("alt+f", "r")
+        self.screen.answer("Return")
+        self.screen.wait_for_focus("Open")
+        self.screen.key("Return")
+        self.wait_for_you(1, 1)
 
     def test_calls_that_need_no_window(self):
         bare = ["env", "-u", "QT_QPA_PLATFORM", "-u", "DISPLAY"]
