@@ -45,7 +45,7 @@ class Shown {
 
   public:
     frmMain Game{platform};
-    BoardCanvas Canvas{Game, 1};
+    BoardCanvas Canvas{Game};
 };
 
 /// Every cell holds something.

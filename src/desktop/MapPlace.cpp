@@ -31,7 +31,7 @@ Position PositionIn(FieldInput list, std::string_view map) {
 std::string MapInList(const frmMain& game, Platform& files) {
     const std::string& file = game.ActiveChild.Form.Caption;
     if (file != game.CurrentMap || file.empty()) return "";
-    const std::string map = WithoutExtension(file);
+    std::string map = WithoutExtension(file);
     const std::string list = game.ListInUse();
     const std::string listName = " in " + WithoutExtension(list);
     try {

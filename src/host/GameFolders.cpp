@@ -32,11 +32,11 @@ fs::path FromEnvironment(const char* name) {
 } // namespace
 
 fs::path GameFolders::Find(const fs::path& file) const {
-    const fs::path own = FindFile(file);
+    fs::path own = FindFile(file);
     if (Shipped.empty() || IsThere(own)) return own;
     const fs::path within = file.lexically_relative(Own);
     if (within.empty() || *within.begin() == "..") return own;
-    const fs::path shipped = FindFile(Shipped / within);
+    fs::path shipped = FindFile(Shipped / within);
     return IsThere(shipped) ? shipped : own;
 }
 
