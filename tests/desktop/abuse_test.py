@@ -19,7 +19,8 @@ RELAUNCHES = int(os.environ.get("TUMBLEDEEP_RELAUNCHES", "12"))
 BATCH = 10
 PLAY = ["w", "a", "s", "d", "p", "Up", "Down", "Left", "Right"]
 OTHER = ["Return", "Escape", "Tab", "space", "alt+f", "alt+s", "ctrl+c", "F10", "F1", "Home", "End",
-         "BackSpace", "1", "3", "minus", "Caps_Lock", "Num_Lock", "shift+Tab", "adiaeresis"]
+         "BackSpace", "1", "3", "minus", "F11", "ctrl+plus", "ctrl+minus",
+         "Caps_Lock", "Num_Lock", "shift+Tab", "adiaeresis"]
 MENUS = [("alt+f", "l"), ("alt+f", "b"), ("alt+f", "m"), ("alt+f", "r"), ("alt+s", "s"),
          ("alt+s", "Down", "Right", "Return")]
 SETTINGS = "[Level]\nLOAD=M.TBM\n[AutoMove]\nMOVE=True\nMODE=2\n"
@@ -147,6 +148,7 @@ class Abuse(screen.GameTest):
         if re.search("Caps Lock: *on", self.screen.run("xset", "q")):
             self.screen.run("xdotool", "key", "Caps_Lock")
         screen.wait_until("a known map", self.go_home)
+        self.screen.key("ctrl+0")
         self.wait_for_you(1, 1)
         self.walk("d")
         self.check_ends()
@@ -160,7 +162,7 @@ class Abuse(screen.GameTest):
             self.run_game(AT_HOME)
         elif self.screen.windows("Tumble Deep - HOME"):
             return len(self.pids()) == 1
-        elif self.screen.windows("(Tumbledeep|Open)"):
+        elif self.screen.windows("(Tumbledeep|Open|What is what)"):
             self.screen.run("xdotool", "key", "Escape")
         else:
             (self.dir / "Tumbledeep.ini").write_text(AT_HOME)

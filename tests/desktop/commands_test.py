@@ -1,4 +1,4 @@
-"""The commands in the papers, carried out in their order as a reader would, on the built programs."""
+"""The commands in the papers, carried out in their order as a reader would."""
 
 import os
 import pathlib
@@ -13,7 +13,8 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 PROGRAMS = ("tumbledeep", "tumbledeep-map", "tumbledeep-trace")
 OPENS_A_WINDOW = re.compile(r"\./play|\S*tumbledeep-map play")
 # What installs and builds is the rest of the checks' work.
-IS_CARRIED_OUT = re.compile(r"\./play [^ ]|(build/release/)?tumbledeep-\w+ [^[]|maps=|mkdir |printf ")
+IS_CARRIED_OUT = re.compile(
+    r"\./play [^ ]|(build/release/)?tumbledeep-\w+ [^[]|maps=|mkdir |printf ")
 
 
 def blocks(paper):
