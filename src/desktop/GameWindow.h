@@ -1,6 +1,7 @@
 // The parent window on the screen. Every event reaches the game from here, timer, menu, keys and
 // mouse, and afterwards the screen is made to agree with the game's data. The clock is held here
-// while a dialog is open, and nowhere else. The board is painted by BoardCanvas.
+// while a dialog is open, and nowhere else. The board is painted by BoardCanvas; how large it all
+// is is told in WindowSize.cpp.
 #pragma once
 
 #include "desktop/BoardCanvas.h"
