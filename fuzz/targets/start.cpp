@@ -52,7 +52,7 @@ void ReadByTheTrace(std::vector<std::string> words) {
 std::string CommandOf(std::vector<std::string> words) {
     const Options options = ReadOptions(PointersTo(words));
     options.ForSuccessor();
-    return CommandText(options.Argument, ".");
+    return CommandText(options.Argument, {".", {}});
 }
 
 /// A process. True if it has started another one.
