@@ -169,11 +169,12 @@ std::uint32_t DesktopPlatform::Seed() {
 }
 
 std::string DesktopPlatform::OpenForInput(const std::string& path) {
-    const fs::path file = HostPath(path);
-    std::string bytes = ReadFile(folders.Find(file));
+    const fs::path file = folders.Find(HostPath(path));
+    std::string bytes = ReadFile(file);
     if (IsMapName(path)) {
         lost.reset();
-        const bool isElsewhere = file.parent_path() != folders.Own.lexically_normal();
+        const fs::path folder = HostPath(path).parent_path();
+        const bool isElsewhere = folder != folders.Own.lexically_normal();
         options.Elsewhere = isElsewhere ? std::optional(file) : std::nullopt;
     }
     return bytes;

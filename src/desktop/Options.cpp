@@ -29,6 +29,13 @@ int WholeFrom(std::string_view option, std::string_view text, int least, int mos
     return static_cast<int>(*value);
 }
 
+/// The game knows maps and lists in an argument by capitals alone; files are found in any case.
+std::string InCapitals(std::string path) {
+    if (path.ends_with(".tbm")) return WithoutExtension(path) + ".TBM";
+    if (path.ends_with(".tbl")) return WithoutExtension(path) + ".TBL";
+    return path;
+}
+
 } // namespace
 
 std::vector<std::string> Options::ForSuccessor() const {
@@ -144,10 +151,10 @@ std::string CommandText(const std::string& argument, const GameFolders& folders)
 
     const fs::path host = HostPath(name);
     std::error_code error;
-    if (host.is_absolute()) return ProgramPath(host);
+    if (host.is_absolute()) return InCapitals(ProgramPath(host));
     const bool isTheGames = fs::exists(folders.Find(folders.Own / host), error);
     if (!isTheGames && fs::exists(FindFile(host), error)) {
-        return ProgramPath(host);
+        return InCapitals(ProgramPath(host));
     }
     std::string relative = name;
     std::replace(relative.begin(), relative.end(), '/', '\\');

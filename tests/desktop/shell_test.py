@@ -34,9 +34,9 @@ class Shell(screen.GameTest):
     def test_names_on_the_command_line(self):
         elsewhere = self.dir / "elsewhere"
         elsewhere.mkdir()
-        self.write_map("elsewhere/N.TBM", screen.ROOM)
+        self.write_map("elsewhere/N.tbm", screen.ROOM)
         self.write_settings("M.TBM")
-        self.start("N.TBM", cwd=elsewhere)
+        self.start("N.tbm", cwd=elsewhere)
         self.wait_for_you(1, 1)
         self.assertEqual("N.TBM", self.setting("LOAD"))
         # The next process does not find it, and asks with that very map chosen.
