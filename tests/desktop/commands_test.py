@@ -41,6 +41,7 @@ class Commands(screen.GameTest):
             shutil.copy(screen.LEVELS / name, bin_folder)
         for file in screen.LEVELS.glob("*.TB?"):
             shutil.copy(file, bin_folder)
+            shutil.copy(file, self.home / "maps")
         (self.dir / "play").symlink_to(bin_folder / "tumbledeep")
         (self.dir / "levels").symlink_to(ROOT / "levels")
         self.screen.env.update(HOME=str(self.home),
@@ -49,12 +50,17 @@ class Commands(screen.GameTest):
     def open_window(self, command):
         self.first = subprocess.Popen(["sh", "-c", "exec " + command], cwd=self.dir,
                                       env=self.screen.env)
-        # A title, or the question of a first start; a recording begins behind them.
-        for key in ("Return", "Escape"):
-            self.screen.key(key)
-            time.sleep(0.3)
+        # A recording begins behind the title and the question of a first start.
+        screen.wait_until("the board", lambda: self.plays() and not time.sleep(0.3) and self.plays())
         self.first.terminate()
         self.wait_for_end()
+
+    def plays(self):
+        """Whether the player is there and no dialog is; one that is open is closed."""
+        if not self.screen.windows("Tumbledeep"):
+            return self.spot()
+        self.screen.key("Escape")
+        return False
 
     def test_papers(self):
         for paper, least in (("README.md", 13), ("docs/MAPS.md", 10), ("docs/PICTURES.md", 2),

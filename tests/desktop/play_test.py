@@ -19,7 +19,7 @@ class Play(screen.GameTest):
 
     def test_a_press_is_one_step_and_letters_and_arrows_go_on_while_they_are_held(self):
         self.begin(CORRIDOR)
-        self.screen.hands("keydown", "d", "sleep", "0.05", "keyup", "d")
+        self.screen.key("d")
         time.sleep(0.5)
         self.assertEqual((2, 1), self.you(), "a press")
         for key in ("d", "Right"):
